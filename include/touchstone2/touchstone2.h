@@ -1,0 +1,31 @@
+/// touchstone2: reads, validates, holds, transforms and writes Touchstone files (.sNp, .ts).
+///
+/// Where to look:
+///
+///     model/   what a file holds: File, NetworkParams, NoiseParams and the small value types
+///     reader/  Parser reads a file or bytes in memory into a File and tells a MessageHandler
+///              every error and warning, each with code, line and column
+///     writer/  V1_Writer and V2_Writer write a valid File to a stream
+///     portnames/  the comment conventions that name ports; File's members use them
+///     copier/  a new File with a subset or a new order of the ports
+///
+///     #include <touchstone2/touchstone2.h>
+///
+///     touchstone2::File file("filter.s2p");
+///     touchstone2::StandardMessageHandler handler;
+///     touchstone2::Parser parser(file, handler);
+///     if (parser.read_file()) {
+///       const touchstone2::NetworkParams& s = *file.get_network_params();
+///       auto [db, deg] = s.cell(0, 1, 0).as_format(touchstone2::ComplexFormat::DB);   // S21
+///     }
+///
+/// Indices count from 0; port numbers in descriptors and diagnostics, lines and columns count
+/// from 1. Impedances are in ohms, angles in degrees, frequencies in the file's unit unless a
+/// name or comment says Hz.
+#ifndef TOUCHSTONE2_TOUCHSTONE2_H
+#define TOUCHSTONE2_TOUCHSTONE2_H
+
+#include <touchstone2/export.h>
+#include <touchstone2/version.h>
+
+#endif

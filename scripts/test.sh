@@ -1,0 +1,39 @@
+#!/usr/bin/env bash
+# Everything that must hold before a change goes in; continuous integration runs
+# this and nothing else. Stops at the first step that fails.
+set -euo pipefail
+cd "$(dirname "${BASH_SOURCE[0]}")/.."
+
+current="start"
+finish() {
+    local code=$?
+    if [ "$code" -eq 0 ]; then
+        printf '\nall steps passed in %d s\n' "$SECONDS"
+    else
+        printf '\nFAILED: %s (exit code %d, after %d s)\n' "$current" "$code" "$SECONDS" >&2
+    fi
+}
+trap finish EXIT
+
+step() {
+    current=$1
+    shift
+    printf '\n==== %s ====\n' "$current"
+    "$@"
+}
+
+# Builds one preset and runs its tests.
+check_preset() {
+    cmake --preset "$1"
+    cmake --build --preset "$1"
+    ctest --preset "$1" -j "$(nproc)"
+}
+
+# No "|| ...", "if" or "&&" around a step: bash would then ignore failures inside.
+step "setup" scripts/setup.sh check
+step "format" scripts/format.sh --check
+step "layers" python3 scripts/check_layers.py
+step "gcc, release" check_preset release
+step "clang, release" check_preset clang
+step "gcc, address and undefined behaviour sanitizers" check_preset asan
+step "clang-tidy" scripts/tidy.sh
