@@ -29,6 +29,9 @@
 #include <touchstone2/model/network_params.h>
 #include <touchstone2/model/noise_params.h>
 #include <touchstone2/model/types.h>
+#include <touchstone2/portnames/comment_processor.h>
+#include <touchstone2/portnames/port_name_parsers.h>
+#include <touchstone2/portnames/string_tokenizer.h>
 #include <touchstone2/version.h>
 
 #endif
