@@ -26,6 +26,7 @@
 #define TOUCHSTONE2_TOUCHSTONE2_H
 
 #include <touchstone2/export.h>
+#include <touchstone2/model/file.h>
 #include <touchstone2/model/network_params.h>
 #include <touchstone2/model/noise_params.h>
 #include <touchstone2/model/types.h>
