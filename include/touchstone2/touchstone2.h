@@ -33,6 +33,9 @@
 #include <touchstone2/portnames/comment_processor.h>
 #include <touchstone2/portnames/port_name_parsers.h>
 #include <touchstone2/portnames/string_tokenizer.h>
+#include <touchstone2/reader/diagnostics.h>
+#include <touchstone2/reader/error_type.h>
+#include <touchstone2/reader/token.h>
 #include <touchstone2/version.h>
 
 #endif
