@@ -35,6 +35,7 @@
 #include <touchstone2/portnames/string_tokenizer.h>
 #include <touchstone2/reader/diagnostics.h>
 #include <touchstone2/reader/error_type.h>
+#include <touchstone2/reader/message_handler.h>
 #include <touchstone2/reader/token.h>
 #include <touchstone2/version.h>
 
