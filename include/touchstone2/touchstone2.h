@@ -36,6 +36,8 @@
 #include <touchstone2/reader/diagnostics.h>
 #include <touchstone2/reader/error_type.h>
 #include <touchstone2/reader/message_handler.h>
+#include <touchstone2/reader/parser.h>
+#include <touchstone2/reader/port_count.h>
 #include <touchstone2/reader/token.h>
 #include <touchstone2/version.h>
 
