@@ -40,5 +40,8 @@
 #include <touchstone2/reader/port_count.h>
 #include <touchstone2/reader/token.h>
 #include <touchstone2/version.h>
+#include <touchstone2/writer/v1_writer.h>
+#include <touchstone2/writer/v2_writer.h>
+#include <touchstone2/writer/writer.h>
 
 #endif
