@@ -25,6 +25,7 @@
 #ifndef TOUCHSTONE2_TOUCHSTONE2_H
 #define TOUCHSTONE2_TOUCHSTONE2_H
 
+#include <touchstone2/copier/file_copier.h>
 #include <touchstone2/export.h>
 #include <touchstone2/model/file.h>
 #include <touchstone2/model/network_params.h>
