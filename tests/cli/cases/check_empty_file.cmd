@@ -1,0 +1,2 @@
+: >empty.s1p
+touchstone2 check empty.s1p

@@ -1,0 +1,2 @@
+cp examples/good/antenna.s1p ./-
+touchstone2 check ./- </dev/null

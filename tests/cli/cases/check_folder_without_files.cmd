@@ -1,0 +1,2 @@
+mkdir empty
+touchstone2 check empty

@@ -1,0 +1,2 @@
+mkdir empty
+touchstone2 check empty examples/broken/missing_end.ts

@@ -1,0 +1,1 @@
+touchstone2 check examples/good/antenna.s1p missing.s2p

@@ -1,0 +1,1 @@
+touchstone2 check --quiet examples/broken/missing_end.ts examples/good

@@ -1,0 +1,1 @@
+cat examples/broken/missing_end.ts | touchstone2 check -

@@ -1,0 +1,1 @@
+touchstone2 info examples/good/antenna_amplifier.ts

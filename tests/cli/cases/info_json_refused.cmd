@@ -1,0 +1,1 @@
+touchstone2 info --json examples/broken/missing_pair.s2p

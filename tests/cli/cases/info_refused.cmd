@@ -1,0 +1,1 @@
+touchstone2 info examples/broken/pair_impedances.s4p

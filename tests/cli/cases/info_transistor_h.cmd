@@ -1,0 +1,1 @@
+touchstone2 info examples/good/transistor_h.s2p

@@ -1,0 +1,1 @@
+touchstone2 --version | sed 's/ [0-9]*\.[0-9]*\.[0-9]*$/ NUMBER/'

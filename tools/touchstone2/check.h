@@ -1,0 +1,31 @@
+/// touchstone2 check: reads files and says which are valid.
+#ifndef TOUCHSTONE2_TOOL_CHECK_H
+#define TOUCHSTONE2_TOOL_CHECK_H
+
+#include <string>
+#include <vector>
+
+namespace CLI {
+class App;
+}
+
+namespace tool {
+
+struct CheckOptions {
+  std::vector<std::string> paths;
+  bool quiet = false;
+  bool header_only = false;
+  bool werror = false;
+  bool json = false;
+};
+
+/// @return the exit code
+int check(const CheckOptions& options);
+
+/// Adds the subcommand to `app`; when it is chosen, parsing runs it and stores its exit code
+/// in `exit_code`, which must outlive `app`.
+void add_check_command(CLI::App& app, int& exit_code);
+
+}  // namespace tool
+
+#endif

@@ -1,0 +1,39 @@
+/// The process's own streams and exit codes.
+#ifndef TOUCHSTONE2_TOOL_CONSOLE_H
+#define TOUCHSTONE2_TOOL_CONSOLE_H
+
+#include <string>
+#include <string_view>
+
+namespace tool {
+
+enum ExitCode : int {
+  kAllValid = 0,
+  kRefused = 1,
+  kNotDone = 2,       ///< usage error, nothing to check, or input or output that failed
+  kClosedPipe = 141,  ///< what shells show for a program that a closed pipe has ended
+};
+
+/// Thrown when nobody reads standard output any more. Not an std::exception on purpose:
+/// nothing but main may take it for an error.
+struct ClosedPipe {};
+
+/// Lets a closed pipe show up as a failed write and makes standard input binary. Call it
+/// first.
+void prepare_streams();
+
+/// Writes to standard output and flushes it, so that readers get every record at once and
+/// the order with standard error is kept.
+/// @throws ClosedPipe, or std::runtime_error for any other failure
+void write_output(std::string_view text);
+
+/// Writes "touchstone2: TEXT" and a line end to standard error; a failure is ignored.
+void complain(std::string_view text);
+
+/// Everything up to the end of standard input, byte for byte.
+/// @throws std::runtime_error
+std::string read_standard_input();
+
+}  // namespace tool
+
+#endif

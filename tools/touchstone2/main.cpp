@@ -1,0 +1,88 @@
+// The command-line tool: sets up the subcommands and turns every way to end into an exit
+// code. The parser of the command line has exit codes of its own; they are not used.
+
+#include <touchstone2/version.h>
+
+#include <exception>
+#include <new>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include <CLI/CLI.hpp>
+
+#include "check.h"
+#include "console.h"
+#include "info.h"
+
+namespace {
+
+constexpr const char* kDescription = "Reads, checks and describes Touchstone files (*.sNp, *.ts).";
+
+constexpr const char* kFooter = R"(Examples:
+  touchstone2 check measurements/
+  touchstone2 info amplifier.s2p
+  touchstone2 check --help)";
+
+std::string usage_text(const CLI::App& app, const CLI::ParseError& error) {
+  if (!app.get_subcommands().empty()) return error.what();
+  const std::vector<std::string> unknown = app.remaining();
+  return unknown.empty() ? "no command given" : "no such command or option: " + unknown.front();
+}
+
+int usage_error(const CLI::App& app, const CLI::ParseError& error) {
+  tool::complain(usage_text(app, error));
+  tool::complain("try 'touchstone2 --help' or 'touchstone2 COMMAND --help'");
+  return tool::kNotDone;
+}
+
+// The arguments in the reverse order that CLI::App::parse takes. It would take "[a]" for a
+// list; "./[a]" names the same file.
+std::vector<std::string> arguments_of(int argc, char** argv) {
+  std::vector<std::string> arguments;
+  for (int i = argc - 1; i > 0; --i) {
+    const std::string_view argument = argv[i];
+    const bool is_list = argument.starts_with('[') && argument.ends_with(']');
+    arguments.push_back((is_list ? "./" : "") + std::string(argument));
+  }
+  return arguments;
+}
+
+// The subcommands run inside app.parse.
+int run(std::vector<std::string> arguments) {
+  int exit_code = tool::kAllValid;
+  CLI::App app(kDescription, "touchstone2");
+  app.footer(kFooter);
+  app.set_version_flag("--version", "touchstone2 " TOUCHSTONE2_VERSION_STRING,
+                       "Print the version and exit");
+  app.require_subcommand(1);
+  tool::add_check_command(app, exit_code);
+  tool::add_info_command(app, exit_code);
+  try {
+    app.parse(std::move(arguments));
+  } catch (const CLI::CallForHelp&) {
+    tool::write_output(app.help());
+  } catch (const CLI::CallForVersion& version) {
+    tool::write_output(std::string(version.what()) + "\n");
+  } catch (const CLI::ParseError& error) {
+    return usage_error(app, error);
+  }
+  return exit_code;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  try {
+    tool::prepare_streams();
+    return run(arguments_of(argc, argv));
+  } catch (const tool::ClosedPipe&) {
+    return tool::kClosedPipe;
+  } catch (const std::bad_alloc&) {
+    tool::complain("out of memory");
+  } catch (const std::exception& error) {
+    tool::complain(error.what());
+  }
+  return tool::kNotDone;
+}
