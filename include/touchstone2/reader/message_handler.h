@@ -29,7 +29,7 @@ class File;
 /// Interface of the caller's sink. The order of its virtual functions is part of the binary
 /// interface. The diagnostic lives only during the call; the same holds for the text of its
 /// what(). An exception that a handler throws ends the read and reaches the reader's caller,
-/// unless it is a ParserError, which is reported like the reader's own.
+/// but for one: a ParserError thrown from report_warning is reported like the reader's own.
 struct TOUCHSTONE2_EXPORT MessageHandler {
   MessageHandler();
   MessageHandler(const MessageHandler&);
