@@ -8,6 +8,7 @@
 #include <limits>
 #include <system_error>
 
+#include "model/decimal.h"
 #include "reader/ascii.h"
 
 namespace touchstone2::detail {
@@ -72,6 +73,33 @@ std::optional<Literal> find_literal(std::string_view text) {
   return literal;
 }
 
+// Most numbers have few digits and a small exponent. Nothing for the others, and for what is no
+// literal.
+std::optional<double> parse_short_literal(std::string_view text) {
+  std::uint64_t digits = 0;
+  std::size_t position = 0;
+  std::size_t point = std::string_view::npos;
+  constexpr std::size_t kMostBytes = 20;  // at most 19 digits and a point
+  if (text.size() > kMostBytes) return std::nullopt;
+  for (; position < text.size(); ++position) {
+    const char c = text[position];
+    if (is_digit(c)) {
+      digits = 10 * digits + static_cast<std::uint64_t>(c - '0');
+    } else if (c == '.' && point == std::string_view::npos) {
+      point = position;
+    } else {
+      return std::nullopt;
+    }
+  }
+  const bool has_point = point != std::string_view::npos;
+  const std::size_t count = text.size() - (has_point ? 1 : 0);
+  if (count == 0 || count > kMostBytes - 1) return std::nullopt;
+  const std::size_t decimals = has_point ? text.size() - point - 1 : 0;
+  double value = 0.0;
+  if (!decimal_to_double(digits, -static_cast<int>(decimals), value)) return std::nullopt;
+  return value;
+}
+
 // The value of a literal without a sign: at least zero, infinite or zero when out of range.
 double nearest_double(const Literal& literal) {
   double value = 0.0;
@@ -88,7 +116,12 @@ double nearest_double(const Literal& literal) {
 RealText parse_real(std::string_view text) {
   const bool negative = !text.empty() && text[0] == '-';
   const bool has_sign = negative || (!text.empty() && text[0] == '+');
-  const std::optional<Literal> literal = find_literal(text.substr(has_sign ? 1 : 0));
+  const std::string_view unsigned_text = text.substr(has_sign ? 1 : 0);
+  if (const auto value = parse_short_literal(unsigned_text)) {
+    return {negative ? -*value : *value, RealRange::normal};
+  }
+
+  const std::optional<Literal> literal = find_literal(unsigned_text);
   if (!literal) return {0.0, RealRange::normal};
 
   RealText real{nearest_double(*literal), RealRange::normal};

@@ -94,6 +94,12 @@ bool Scanner::next() {
   return true;
 }
 
+void Scanner::resume_at_line(const char* line_start, std::size_t line) {
+  position_ = line_start;
+  line_start_ = line_start;
+  line_ = line;
+}
+
 void Scanner::start_token(Token::Type type) {
   token_.type = type;
   token_.line = line_;

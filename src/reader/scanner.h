@@ -39,6 +39,11 @@ class Scanner {
 
   bool end_of_file_reached() const { return end_of_file_reached_; }
 
+  // Goes on at the first byte of a line, which has the given number, as if everything before
+  // it had been scanned. Not for the end of the bytes.
+  void resume_at_line(const char* line_start, std::size_t line);
+
+  const char* end() const { return end_; }
   std::size_t size() const { return static_cast<std::size_t>(end_ - begin_); }
 
  private:

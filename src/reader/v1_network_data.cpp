@@ -9,6 +9,7 @@
 
 #include "model/impedance_scaling.h"
 #include "reader/cell_cursor.h"
+#include "reader/fast_records.h"
 #include "reader/scanner.h"
 
 namespace touchstone2 {
@@ -53,9 +54,13 @@ void Parser::read_v1_network_data(std::vector<TokenPlace>& pending, bool header_
   pending.clear();
   std::size_t number_of_ports = 0;
   std::unique_ptr<NetworkParams> params;
+  std::optional<FastRecords> fast_records;
   std::vector<TokenPlace> record;
   bool noise_found = false;
   while (!noise_found && !(scanner_->end_of_file_reached() && pending.empty())) {
+    if (fast_records && !pending.empty() && take_fast_records(*fast_records, pending[0])) {
+      pending.clear();
+    }
     record.clear();
     noise_found = gather_v1_record(record, pending, number_of_ports);
     if (record.empty()) {
@@ -69,6 +74,7 @@ void Parser::read_v1_network_data(std::vector<TokenPlace>& pending, bool header_
       if (header_only) break;
       params = std::make_unique<FullNetworkParams>(
           number_of_ports, file_.get_frequency_multiplier(), file_.get_complex_format());
+      fast_records.emplace(file_, *params, first_v1_cell(number_of_ports));
     } else if (record.size() - 1 != 2 * number_of_ports * number_of_ports) {
       throw IncorrectNumberOfNetworkValuesError(record.size() - 1,
                                                 number_of_ports * number_of_ports,

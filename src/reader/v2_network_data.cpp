@@ -5,6 +5,7 @@
 #include <touchstone2/reader/parser.h>
 
 #include "reader/cell_cursor.h"
+#include "reader/fast_records.h"
 #include "reader/scanner.h"
 
 namespace touchstone2 {
@@ -54,7 +55,11 @@ void Parser::read_network_data_keyword() {
   }
   const CellCursor first_cell(cell_order(file_), file_.get_number_of_ports());
 
+  FastRecords fast_records(file_, *params, first_cell);
   for (skip_blank_lines(); current_token().type != Token::Type::keyword; skip_blank_lines()) {
+    const bool may_be_regular =
+        current_token().type == Token::Type::number && current_token().column == 1;
+    if (may_be_regular && take_fast_records(fast_records, scanner_->token_place())) continue;
     read_record(*params, first_cell);
   }
   if (params->freq_points() != file_.get_number_of_frequencies()) {
@@ -62,6 +67,20 @@ void Parser::read_network_data_keyword() {
                               current_token());
   }
   file_.set_network_params(params.release());
+}
+
+// Takes what regular records there are from the one that begins with `first`, and leaves the
+// first token behind them current. False when there is none: nothing has happened then.
+//
+// The bytes may have been scanned a little further than `first`, but if a record is taken then
+// only over tokens that report nothing, so that none of them is reported twice.
+bool Parser::take_fast_records(FastRecords& records, const TokenPlace& first) {
+  if (!uses_fast_path_) return false;
+  const FastRecords::Taken taken = records.take(first.first, scanner_->end());
+  if (taken.end == first.first) return false;
+  scanner_->resume_at_line(taken.end, first.line + taken.lines);
+  next_token();
+  return true;
 }
 
 // Reads one frequency and its cells, which may run over several lines. A record that the end of

@@ -21,6 +21,8 @@
 
 namespace touchstone2 {
 
+class FastRecords;
+
 /// Base of the two storage layouts. The order of its virtual functions and of its data
 /// members is part of the binary interface.
 class TOUCHSTONE2_EXPORT NetworkParams {
@@ -91,6 +93,8 @@ class TOUCHSTONE2_EXPORT NetworkParams {
   virtual std::size_t calculate_index(std::size_t row, std::size_t col) const = 0;
 
  private:
+  friend class FastRecords;
+
   struct FreqPoint {
     double freq;  // in the file's unit
     // Two doubles per cell. One row of cells more than the matrix needs: equality compares

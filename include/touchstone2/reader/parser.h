@@ -22,6 +22,7 @@
 namespace touchstone2 {
 
 class CellCursor;
+class FastRecords;
 class Scanner;
 struct TokenPlace;
 
@@ -113,6 +114,7 @@ class Parser {
   double read_frequency(const TokenPlace& number, double earlier_frequency) const;
   std::pair<double, double> read_pair(const TokenPlace& first, const TokenPlace& second) const;
   void read_record(NetworkParams& params, CellCursor cursor);
+  bool take_fast_records(FastRecords& records, const TokenPlace& first);
 
   // v1_network_data.cpp
   void read_v1_file(bool header_only);
@@ -141,6 +143,10 @@ class Parser {
   MessageHandler& handler_;
   std::optional<std::string_view> bytes_;  // none: map the file that file_ names
   std::unique_ptr<Scanner> scanner_;       // null outside a read
+
+  // Off in tests that hold the fast path through regular records against the ordinary one.
+  friend struct FastPathSwitch;
+  bool uses_fast_path_ = true;
 };
 
 }  // namespace touchstone2

@@ -1,0 +1,73 @@
+#include "model/decimal.h"
+
+#include <charconv>
+#include <random>
+#include <string>
+
+#include <gtest/gtest.h>
+
+#include "support/same_bits.h"
+
+namespace touchstone2::detail {
+namespace {
+
+double exact_value(std::uint64_t digits, int exponent) {
+  const std::string text = std::to_string(digits) + "e" + std::to_string(exponent);
+  double value = -1.0;
+  std::from_chars(text.data(), text.data() + text.size(), value);
+  return value;
+}
+
+void expect_nearest(std::uint64_t digits, int exponent) {
+  double value = -1.0;
+  if (!decimal_to_double(digits, exponent, value)) return;  // allowed to give up
+  EXPECT_TRUE(test::same_bits(value, exact_value(digits, exponent))) << digits << "e" << exponent;
+}
+
+TEST(Decimal, PowersOfFive) {
+  // 5 = 101b, 25 = 11001b, 1/5 = 0.110011...b rounded up.
+  EXPECT_EQ(kPowersOfFive[55].high, 0x8000000000000000);
+  EXPECT_EQ(kPowersOfFive[56].high, 0xA000000000000000);
+  EXPECT_EQ(kPowersOfFive[57].high, 0xC800000000000000);
+  EXPECT_EQ(kPowersOfFive[54].high, 0xCCCCCCCCCCCCCCCC);
+  EXPECT_EQ(kPowersOfFive[54].low, 0xCCCCCCCCCCCCCCCD);
+}
+
+TEST(Decimal, ZeroIsZeroWhateverTheExponent) {
+  for (int exponent = -55; exponent <= 55; ++exponent) expect_nearest(0, exponent);
+}
+
+TEST(Decimal, EveryExponentWithEveryCountOfDigits) {
+  std::mt19937_64 random(1);
+  for (int exponent = -55; exponent <= 55; ++exponent) {
+    for (int count = 1; count <= 19; ++count) {
+      for (int repeat = 0; repeat < 20; ++repeat) {
+        std::uint64_t digits = 0;
+        for (int k = 0; k < count; ++k) digits = 10 * digits + random() % 10;
+        expect_nearest(digits, exponent);
+      }
+    }
+  }
+}
+
+// Whole numbers of more than 53 bits that lie exactly between two doubles, or next to that.
+TEST(Decimal, TiesGoToTheEvenNeighbour) {
+  std::mt19937_64 random(2);
+  for (int repeat = 0; repeat < 100'000; ++repeat) {
+    const std::uint64_t tie = (((std::uint64_t{1} << 52) | (random() >> 12)) << 1) | 1;
+    const int shift = static_cast<int>(random() % 11);
+    for (const int off : {-1, 0, 1}) {
+      expect_nearest((tie << shift) + static_cast<std::uint64_t>(off),
+                     static_cast<int>(random() % 5) - 4);
+    }
+  }
+}
+
+TEST(Decimal, CarryIntoTheNextPowerOfTwo) {
+  expect_nearest(9007199254740991, 0);       // 2^53 - 1
+  expect_nearest(18014398509481983, 0);      // 2^54 - 1, rounds up to 2^54
+  expect_nearest(18446744073709551615U, 0);  // 2^64 - 1
+}
+
+}  // namespace
+}  // namespace touchstone2::detail
