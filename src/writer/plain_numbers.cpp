@@ -2,14 +2,11 @@
 // change their bytes, the precision excepted, set to what a new stream has.
 #include "writer/plain_numbers.h"
 
-#include <iomanip>
 #include <ostream>
 
 namespace touchstone2::detail {
 
 namespace {
-
-constexpr int kFieldWidth = 20;
 
 constexpr std::ios_base::fmtflags kNotation = std::ios_base::basefield | std::ios_base::floatfield |
                                               std::ios_base::showbase | std::ios_base::showpoint |
@@ -38,14 +35,5 @@ PlainNumbers::~PlainNumbers() {
 void write_number(std::ostream& os, double value) { os << value; }
 
 void write_number(std::ostream& os, std::size_t value) { os << value; }
-
-void write_field(std::ostream& os, double value) {
-  os << std::left << std::setw(kFieldWidth);
-  write_number(os, value);
-}
-
-void write_field(std::ostream& os, std::string_view text) {
-  os << std::left << std::setw(kFieldWidth) << text;
-}
 
 }  // namespace touchstone2::detail

@@ -7,7 +7,6 @@
 #include <ios>
 #include <iosfwd>
 #include <locale>
-#include <string_view>
 
 namespace touchstone2::detail {
 
@@ -34,10 +33,6 @@ class PlainNumbers {
 // With the stream's precision and no padding.
 void write_number(std::ostream& os, double value);
 void write_number(std::ostream& os, std::size_t value);
-
-// Left-aligned in a column of data: padded to 20 characters, never cut.
-void write_field(std::ostream& os, double value);
-void write_field(std::ostream& os, std::string_view text);
 
 }  // namespace touchstone2::detail
 

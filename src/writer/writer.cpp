@@ -6,7 +6,7 @@
 // writer's. This is kept on purpose.
 #include <touchstone2/writer/writer.h>
 
-#include <iomanip>
+#include <ios>
 #include <iterator>
 #include <ostream>
 #include <stdexcept>
@@ -15,13 +15,14 @@
 #include <utility>
 
 #include "writer/plain_numbers.h"
+#include "writer/text_buffer.h"
 
 namespace touchstone2 {
 
 namespace {
 
 using detail::PlainNumbers;
-using detail::write_field;
+using detail::TextBuffer;
 using detail::write_number;
 
 // Indexed by the value of the enumeration.
@@ -75,24 +76,24 @@ constexpr std::string_view kHeaderStart = "! freq              ";
 constexpr std::string_view kHeaderBreak = "\n!                   ";
 constexpr std::string_view kDataBreak = "\n                    ";
 
-void write_column_names(std::ostream& os, const File& file, const PairOrder& order) {
+void write_column_names(TextBuffer& text, const File& file, const PairOrder& order) {
   const std::string_view letter = text_of(kTypeLetters, file.get_parameter_type());
   const std::string_view first = text_of(kFirstLabels, file.get_complex_format());
   const std::string_view second = text_of(kSecondLabels, file.get_complex_format());
-  os << kHeaderStart;
+  text.append(kHeaderStart);
   for (std::size_t i = 0; i < order.rows(); ++i) {
     for (std::size_t j = order.begin(i); j < order.end(i); ++j) {
-      if (order.breaks_before(i, j)) os << kHeaderBreak;
+      if (order.breaks_before(i, j)) text.append(kHeaderBreak);
       const auto [row, col] = order.cell(i, j);
       const std::string name =
           std::string(letter) + std::to_string(row + 1) + std::to_string(col + 1);
-      os << "  ";
-      write_field(os, name + std::string(first));
-      os << " ";
-      write_field(os, name + std::string(second));
+      text.append("  ");
+      text.append_field(name + std::string(first));
+      text.append(" ");
+      text.append_field(name + std::string(second));
     }
   }
-  os << "\n";
+  text.append("\n");
 }
 
 }  // namespace
@@ -135,40 +136,48 @@ void Writer::write_network_params(std::ostream& os, bool write_header, bool colu
   const PairOrder order(file_, column_major_two_port, version_1_layout);
   const ComplexFormat format = file_.get_complex_format();
 
-  if (write_header) write_column_names(os, file_, order);
+  TextBuffer text(os);
+  os.setf(std::ios_base::left, std::ios_base::adjustfield);
+  if (write_header) write_column_names(text, file_, order);
   for (std::size_t k = 0; k < params->freq_points(); ++k) {
-    write_field(os, params->get_unscaled_freq(k));
+    text.append_field(params->get_unscaled_freq(k), os.precision());
     for (std::size_t i = 0; i < order.rows(); ++i) {
       for (std::size_t j = order.begin(i); j < order.end(i); ++j) {
-        if (order.breaks_before(i, j)) os << kDataBreak;
+        if (order.breaks_before(i, j)) text.append(kDataBreak);
         const auto [row, col] = order.cell(i, j);
         auto [a, b] = params->cell(k, row, col).as_format(format);
         normalize_network_data(a, b, i, j);
-        os << "  " << std::setprecision(precision_);
-        write_field(os, a);
-        os << " ";
-        write_field(os, b);
+        os.precision(precision_);
+        text.append("  ");
+        text.append_field(a, precision_);
+        text.append(" ");
+        text.append_field(b, precision_);
       }
     }
-    os << "\n";
+    text.append("\n");
   }
+  text.flush();
 }
 
 void Writer::write_noise_params(std::ostream& os, bool normalize) const {
   const NoiseParams* const noise = file_.get_noise_params();
   if (noise == nullptr || noise->freq_points() == 0) return;
   const PlainNumbers plain(os);
-  os << std::setprecision(precision_);
+  TextBuffer text(os);
+  os.setf(std::ios_base::left, std::ios_base::adjustfield);
+  os.precision(precision_);
   for (std::size_t k = 0; k < noise->freq_points(); ++k) {
     const double ohms = noise->get_impedance(k);
-    write_field(os, noise->get_unscaled_freq(k));
+    text.append_field(noise->get_unscaled_freq(k), precision_);
     for (const double value : {noise->get_min_noise_db(k), noise->get_reflection_magnitude(k),
                                noise->get_reflection_phase(k),
                                normalize ? ohms / file_.get_reference_impedance() : ohms}) {
-      os << "  ";
-      write_number(os, value);
+      text.append("  ");
+      text.append_number(value, precision_);
     }
-    os << std::endl;  // each row is flushed
+    text.append("\n");
+    text.flush();
+    os.flush();  // after every row
   }
 }
 
