@@ -36,6 +36,10 @@ constexpr UInt128 multiply_64x64(std::uint64_t a, std::uint64_t b) {
 // rounded up for q < 0. Entry i belongs to q = i - 55.
 extern const std::array<UInt128, 2 * kMostDecimalExponent + 1> kPowersOfFive;
 
+inline constexpr double kExactPowersOfTen[] = {1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
+                                               1e8,  1e9,  1e10, 1e11, 1e12, 1e13, 1e14, 1e15,
+                                               1e16, 1e17, 1e18, 1e19, 1e20, 1e21, 1e22};
+
 // Stores the double nearest to digits * 10^exponent, ties to even, and returns true; or returns
 // false when the answer is not certain or not a normal double. Both are rare.
 //
@@ -46,9 +50,6 @@ extern const std::array<UInt128, 2 * kMostDecimalExponent + 1> kPowersOfFive;
 //
 // Requires |exponent| <= kMostDecimalExponent.
 inline bool decimal_to_double(std::uint64_t digits, int exponent, double& result) {
-  constexpr double kExactPowersOfTen[] = {1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
-                                          1e8,  1e9,  1e10, 1e11, 1e12, 1e13, 1e14, 1e15,
-                                          1e16, 1e17, 1e18, 1e19, 1e20, 1e21, 1e22};
   if (digits < (std::uint64_t{1} << 53) && exponent >= -22 && exponent <= 22) {
     const double value = static_cast<double>(digits);
     result =
