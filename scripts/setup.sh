@@ -4,6 +4,7 @@
 #
 #   setup.sh build   to build and use the library and the tool
 #   setup.sh check   that, and all that the tests and checks need
+#   setup.sh bench   that of build, and what the benchmarks need
 set -euo pipefail
 
 packages=(
@@ -19,7 +20,11 @@ case "${1:-check}" in
             googletest                  # sources; every build compiles its own
             clang-format clang-tidy gcovr
             git python3 util-linux
+            libbenchmark-dev valgrind   # counts instructions
         )
+        ;;
+    bench)
+        packages+=(libbenchmark-dev python3)
         ;;
     *)
         echo "setup: what is '$1'? See the head of this script." >&2
