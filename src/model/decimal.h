@@ -63,7 +63,8 @@ inline bool decimal_to_double(std::uint64_t digits, int exponent, double& result
 
   const int shift = std::countl_zero(digits);
   const std::uint64_t normalized = digits << shift;
-  const UInt128 power = kPowersOfFive[static_cast<std::size_t>(exponent + kMostDecimalExponent)];
+  const int index = exponent + kMostDecimalExponent;
+  const UInt128 power = kPowersOfFive[static_cast<std::size_t>(index)];
   UInt128 product = multiply_64x64(normalized, power.high);
   if ((product.high & 0x1FF) == 0x1FF) {
     const std::uint64_t carry = multiply_64x64(normalized, power.low).high;

@@ -56,7 +56,8 @@ struct Scaled {
 // mantissa * 2^binary_exponent * 10^q for a mantissa with its top bit set and a result from 1
 // to below 2^62. The error is below 2^-58 of the whole's unit.
 Scaled scale(std::uint64_t mantissa, int binary_exponent, int q) {
-  const UInt128 power = kPowersOfFive[static_cast<std::size_t>(q + kMostDecimalExponent)];
+  const int index = q + kMostDecimalExponent;
+  const UInt128 power = kPowersOfFive[static_cast<std::size_t>(index)];
   const UInt128 high = multiply_64x64(mantissa, power.high);
   const UInt128 low = multiply_64x64(mantissa, power.low);
   // The top 128 bits of the product of 64 and 128 bits.
@@ -100,7 +101,8 @@ bool find_digits(double magnitude, int precision, Digits& digits) {
   // the two, a comparison tells that need not be exact: it is looked at again below.
   int exponent = ((biased - 1023) * 78913) >> 18;
   if (exponent < -kMostTabledExponent || exponent >= kMostTabledExponent) return false;
-  exponent += magnitude >= kTens[static_cast<std::size_t>(exponent + 1 + kMostTabledExponent)];
+  const int next = exponent + 1 + kMostTabledExponent;
+  exponent += magnitude >= kTens[static_cast<std::size_t>(next)];
   const int q = precision - 1 - exponent;
   if (q < -kMostDecimalExponent || q > kMostDecimalExponent) return false;
 
@@ -183,7 +185,8 @@ char* write_layout(char* out, const Digits& digits, int precision) {
     return write_exponent(count > 1 ? out + 1 + count : out + 1, exponent);
   }
   if (exponent < 0) {
-    std::memcpy(out, "0.000000", 8);
+    std::memset(out, '0', 8);
+    out[1] = '.';
     std::memcpy(out + 1 - exponent, first, kTextSize);
     return out + 1 - exponent + count;
   }
