@@ -1,6 +1,6 @@
 #include "model/decimal.h"
 
-#include <charconv>
+#include <cstdlib>
 #include <random>
 #include <string>
 
@@ -13,9 +13,7 @@ namespace {
 
 double exact_value(std::uint64_t digits, int exponent) {
   const std::string text = std::to_string(digits) + "e" + std::to_string(exponent);
-  double value = -1.0;
-  std::from_chars(text.data(), text.data() + text.size(), value);
-  return value;
+  return std::strtod(text.c_str(), nullptr);  // the process's locale is the C locale
 }
 
 void expect_nearest(std::uint64_t digits, int exponent) {

@@ -1,10 +1,10 @@
 #include "writer/number_format.h"
 
 #include <bit>
-#include <charconv>
 #include <cmath>
 #include <cstdint>
 #include <cstdio>
+#include <cstdlib>
 #include <limits>
 #include <random>
 #include <string>
@@ -34,9 +34,7 @@ bool as_printf_at_every_precision(double value) {
 }
 
 double nearest(const std::string& text) {
-  double value = 0.0;
-  std::from_chars(text.data(), text.data() + text.size(), value);
-  return value;
+  return std::strtod(text.c_str(), nullptr);  // the process's locale is the C locale
 }
 
 TEST(NumberFormat, SpecialValues) {

@@ -1,0 +1,7 @@
+[Version] 2.0
+# GHz S RI R 50
+[Number of Ports] 2000000000
+[Number of Frequencies] 1
+[Network Data]
+1 0.5 0.25
+[End]

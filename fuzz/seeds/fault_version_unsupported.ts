@@ -1,0 +1,2 @@
+[Version] 2.1
+# GHz

@@ -1,0 +1,11 @@
+[Version] 2.0
+# GHz S RI R 50
+[Number of Ports] 1
+[Number of Frequencies] 1
+[Begin Information]
+[Anything]
+! x
+[End Information]
+[Network Data]
+1 0.5 0.25
+[End]
