@@ -3,9 +3,12 @@
 #include "reader/number_text.h"
 
 #include <charconv>
+#include <clocale>
 #include <cmath>
 #include <cstddef>
+#include <cstdlib>
 #include <limits>
+#include <string>
 #include <system_error>
 
 #include "model/decimal.h"
@@ -101,6 +104,7 @@ std::optional<double> parse_short_literal(std::string_view text) {
 }
 
 // The value of a literal without a sign: at least zero, infinite or zero when out of range.
+#ifdef __cpp_lib_to_chars
 double nearest_double(const Literal& literal) {
   double value = 0.0;
   const char* const first = literal.text.data();
@@ -110,6 +114,14 @@ double nearest_double(const Literal& literal) {
   }
   return value;
 }
+#else
+// Some standard libraries have std::from_chars for integers only. The C library's conversion
+// gives the same bits when it is kept from asking the process's locale.
+double nearest_double(const Literal& literal) {
+  static const locale_t c_locale = ::newlocale(LC_ALL_MASK, "C", nullptr);
+  return ::strtod_l(std::string(literal.text).c_str(), nullptr, c_locale);
+}
+#endif
 
 }  // namespace
 

@@ -32,8 +32,7 @@ char* format_any_number(char* out, double value, int digits) {
 
 }  // namespace
 
-TextBuffer::TextBuffer(std::ostream& os)
-    : os_(os), bytes_(std::make_unique_for_overwrite<char[]>(kCapacity)) {}
+TextBuffer::TextBuffer(std::ostream& os) : os_(os), bytes_(new char[kCapacity]) {}
 
 // The writing failed half way: what came before goes out all the same.
 TextBuffer::~TextBuffer() {

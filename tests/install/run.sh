@@ -4,7 +4,7 @@
 #
 #   run.sh <build directory> <configuration>
 #
-# From the environment: CMAKE, GENERATOR, CXX, VERSION, LIBDIR (below the prefix)
+# From the environment: CMAKE, GENERATOR, CXX, CXXFLAGS, VERSION, LIBDIR (below the prefix)
 # and TOOL (below the prefix; empty when the build has none).
 set -euo pipefail
 
@@ -50,8 +50,8 @@ expect_ports "find_package" "$consumer" "$sample"
 echo "== pkg-config"
 export PKG_CONFIG_PATH="$prefix/$LIBDIR/pkgconfig"
 pkg-config --exists --print-errors "touchstone2 = $VERSION"
-# Split on blanks on purpose: these are several options.
-read -r -a flags <<<"$(pkg-config --cflags --libs touchstone2)"
+# Split on blanks on purpose: these are several options. CMake takes CXXFLAGS by itself.
+read -r -a flags <<<"${CXXFLAGS-} $(pkg-config --cflags --libs touchstone2)"
 "$CXX" -std=c++17 "$here/consumer/main.cpp" "${flags[@]}" \
     "-Wl,-rpath,$(pkg-config --variable=libdir touchstone2)" -o "$work/by_pkg_config"
 expect_ports "pkg-config" "$work/by_pkg_config" "$sample"
