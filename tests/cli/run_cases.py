@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """Runs the command-line tool and compares what it writes with what is kept here.
 
-    run_cases.py --tool PATH --examples FOLDER [--update] [CASE...]
+    run_cases.py --tool PATH --examples FOLDER --faults PATH [--update] [CASE...]
 
 A case is cases/NAME.cmd, a script for sh, and beside it what it must give:
 
@@ -17,7 +17,8 @@ stand in these files as \\xNN, so that they are plain text.
 
 The script runs in an empty temporary folder that holds only a copy of the
 example files, as "examples", and finds the tool as "touchstone2". Permissions
-count: root runs it without the right to read what no one may read.
+count: root runs it without the right to read what no one may read. $FAULTS is
+the library that makes files fail; its source says how to use it.
 
 --update rewrites the files from what the tool does now; read the difference
 before it is kept. Fails if any case does, or if there is none.
@@ -59,7 +60,7 @@ class Case:
         file = self.file(ending)
         return file.read_text(encoding="ascii") if file.exists() else otherwise
 
-    def run(self, tool, examples):
+    def run(self, tool, examples, faults):
         with tempfile.TemporaryDirectory(prefix="touchstone2-cli-") as folder:
             work, bin_folder = pathlib.Path(folder, "work"), pathlib.Path(folder, "bin")
             work.mkdir()
@@ -68,6 +69,10 @@ class Case:
             for part in ("good", "broken"):
                 shutil.copytree(examples / part, work / "examples" / part)
             environment = dict(os.environ, LC_ALL="C", LANGUAGE="C")
+            environment["FAULTS"] = str(faults)
+            # An instrumented tool insists on being loaded in front of everything else.
+            asan_options = environment.get("ASAN_OPTIONS", "")
+            environment["ASAN_OPTIONS"] = f"{asan_options}:verify_asan_link_order=0"
             environment["PATH"] = f"{bin_folder}{os.pathsep}{environment['PATH']}"
             as_anyone = AS_ANYONE if os.geteuid() == 0 else []
             done = subprocess.run(
@@ -126,7 +131,11 @@ class Case:
 def run_case(case, arguments):
     """True unless the case fails."""
     try:
-        result = case.run(arguments.tool.resolve(), arguments.examples.resolve())
+        result = case.run(
+            arguments.tool.resolve(),
+            arguments.examples.resolve(),
+            arguments.faults.resolve(),
+        )
     except subprocess.TimeoutExpired:
         print(f"FAILED  {case.name}: still running after {TIME_LIMIT_S} s")
         return False
@@ -143,6 +152,7 @@ def main():
     parser = argparse.ArgumentParser(description="Tests of the command-line tool.")
     parser.add_argument("--tool", type=pathlib.Path, required=True)
     parser.add_argument("--examples", type=pathlib.Path, required=True)
+    parser.add_argument("--faults", type=pathlib.Path, required=True)
     parser.add_argument("--update", action="store_true", help="rewrite the expected files")
     parser.add_argument("cases", nargs="*", metavar="CASE")
     arguments = parser.parse_args()

@@ -1,5 +1,6 @@
 // Standard streams through C stdio: its errno tells a closed pipe from a full disk, which
-// iostreams do not. The only file here that knows one platform from another.
+// iostreams do not. Together with the implementations of TemporaryFile these are the files here
+// that know one platform from another.
 
 #include "console.h"
 
@@ -27,8 +28,12 @@ void prepare_streams() {
 #ifdef SIGPIPE
   std::signal(SIGPIPE, SIG_IGN);
 #endif
+#ifdef SIGXFSZ
+  std::signal(SIGXFSZ, SIG_IGN);
+#endif
 #ifdef _WIN32
   _setmode(_fileno(stdin), _O_BINARY);
+  _setmode(_fileno(stdout), _O_BINARY);
 #endif
 }
 
@@ -45,6 +50,8 @@ void complain(std::string_view text) {
   line.append(text).append("\n");
   std::fwrite(line.data(), 1, line.size(), stderr);
 }
+
+void note(const std::string& text) { complain("note: " + text); }
 
 std::string read_standard_input() {
   std::string bytes;

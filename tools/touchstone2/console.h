@@ -2,6 +2,7 @@
 #ifndef TOUCHSTONE2_TOOL_CONSOLE_H
 #define TOUCHSTONE2_TOOL_CONSOLE_H
 
+#include <stdexcept>
 #include <string>
 #include <string_view>
 
@@ -9,7 +10,8 @@ namespace tool {
 
 enum ExitCode : int {
   kAllValid = 0,
-  kRefused = 1,
+  kDone = 0,          ///< the output is written
+  kRefused = 1,       ///< an input is not valid, or an output would not say the same
   kNotDone = 2,       ///< usage error, nothing to check, or input or output that failed
   kClosedPipe = 141,  ///< what shells show for a program that a closed pipe has ended
 };
@@ -18,8 +20,14 @@ enum ExitCode : int {
 /// nothing but main may take it for an error.
 struct ClosedPipe {};
 
-/// Lets a closed pipe show up as a failed write and makes standard input binary. Call it
-/// first.
+/// Thrown when the wanted output cannot say what the input says: kRefused, not kNotDone.
+class Refusal : public std::runtime_error {
+ public:
+  using std::runtime_error::runtime_error;
+};
+
+/// Lets a closed pipe and a limit on file sizes show up as failed writes and makes the standard
+/// streams binary. Call it first.
 void prepare_streams();
 
 /// Writes to standard output and flushes it, so that readers get every record at once and
@@ -29,6 +37,9 @@ void write_output(std::string_view text);
 
 /// Writes "touchstone2: TEXT" and a line end to standard error; a failure is ignored.
 void complain(std::string_view text);
+
+/// complain about something that is worth knowing and no failure: "touchstone2: note: TEXT".
+void note(const std::string& text);
 
 /// Everything up to the end of standard input, byte for byte.
 /// @throws std::runtime_error

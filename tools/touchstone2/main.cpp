@@ -14,15 +14,22 @@
 
 #include "check.h"
 #include "console.h"
+#include "convert.h"
 #include "info.h"
+#include "ports.h"
+#include "reorder.h"
+#include "subset.h"
 
 namespace {
 
-constexpr const char* kDescription = "Reads, checks and describes Touchstone files (*.sNp, *.ts).";
+constexpr const char* kDescription =
+    "Reads, checks, describes and changes Touchstone files (*.sNp, *.ts).";
 
 constexpr const char* kFooter = R"(Examples:
   touchstone2 check measurements/
   touchstone2 info amplifier.s2p
+  touchstone2 ports coupler.s4p --set 1=in -o named.s4p
+  touchstone2 convert amplifier.s2p --to v2 -o amplifier.ts
   touchstone2 check --help)";
 
 std::string usage_text(const CLI::App& app, const CLI::ParseError& error) {
@@ -59,6 +66,10 @@ int run(std::vector<std::string> arguments) {
   app.require_subcommand(1);
   tool::add_check_command(app, exit_code);
   tool::add_info_command(app, exit_code);
+  tool::add_ports_command(app, exit_code);
+  tool::add_convert_command(app, exit_code);
+  tool::add_reorder_command(app, exit_code);
+  tool::add_subset_command(app, exit_code);
   try {
     app.parse(std::move(arguments));
   } catch (const CLI::CallForHelp&) {
@@ -79,6 +90,9 @@ int main(int argc, char** argv) {
     return run(arguments_of(argc, argv));
   } catch (const tool::ClosedPipe&) {
     return tool::kClosedPipe;
+  } catch (const tool::Refusal& refusal) {
+    tool::complain(refusal.what());
+    return tool::kRefused;
   } catch (const std::bad_alloc&) {
     tool::complain("out of memory");
   } catch (const std::exception& error) {

@@ -5,7 +5,12 @@
 
 #include <touchstone2/reader/parser.h>
 
+#include <fstream>
+#include <sstream>
+#include <stdexcept>
+
 #include "console.h"
+#include "path_text.h"
 
 namespace tool {
 
@@ -18,7 +23,7 @@ bool run(touchstone2::Parser& parser, Extent extent) {
 }  // namespace
 
 SourceFile::SourceFile(const std::string& path)
-    : is_standard_input_(path == "-"), file_(is_standard_input_ ? "<stdin>" : path) {}
+    : path_(path), is_standard_input_(path == "-"), file_(is_standard_input_ ? "<stdin>" : path) {}
 
 // A File never deletes its noise data; this object has had them made. A refused file may
 // have some, too.
@@ -32,6 +37,13 @@ bool SourceFile::read(touchstone2::MessageHandler& handler, Extent extent) {
   bytes_ = read_standard_input();
   touchstone2::Parser parser(file_, handler, bytes_);
   return run(parser, extent);
+}
+
+std::unique_ptr<std::istream> SourceFile::open_text() const {
+  if (is_standard_input_) return std::make_unique<std::istringstream>(bytes_);
+  auto text = std::make_unique<std::ifstream>(to_path(path_), std::ios::binary);
+  if (!*text) throw std::runtime_error("cannot read '" + path_ + "' again");
+  return text;
 }
 
 }  // namespace tool

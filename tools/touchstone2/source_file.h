@@ -5,6 +5,8 @@
 #include <touchstone2/model/file.h>
 #include <touchstone2/reader/message_handler.h>
 
+#include <istream>
+#include <memory>
 #include <string>
 
 namespace tool {
@@ -27,10 +29,15 @@ class SourceFile {
 
   const touchstone2::File& file() const { return file_; }
 
+  /// The text that was read, once more.
+  /// @throws std::runtime_error
+  std::unique_ptr<std::istream> open_text() const;
+
   /// The name as diagnostics show it.
   const std::string& name() const { return file_.get_filename(); }
 
  private:
+  std::string path_;
   bool is_standard_input_;
   std::string bytes_;  // of standard input
   touchstone2::File file_;

@@ -5,7 +5,7 @@
 
 #include <array>
 #include <charconv>
-#include <limits>
+#include <cstdlib>
 
 namespace tool {
 
@@ -133,9 +133,7 @@ double frequency_in_hz(double unscaled, FrequencyScaleFactor unit) {
                                                   unscaled, std::chars_format::scientific)));
   const std::string text =
       with_point(decimal.digits, 1) + "e" + std::to_string(decimal.exponent + power_of_ten(unit));
-  double hz = 0.0;
-  const auto result = std::from_chars(text.data(), text.data() + text.size(), hz);
-  return result.ec == std::errc() ? hz : std::numeric_limits<double>::infinity();
+  return std::strtod(text.c_str(), nullptr);  // the tool's locale is the C locale; may be infinite
 }
 
 std::string printable(std::string_view text) {

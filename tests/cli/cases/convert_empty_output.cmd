@@ -1,0 +1,1 @@
+touchstone2 convert examples/good/antenna.s1p -o ''

@@ -1,0 +1,1 @@
+touchstone2 convert examples/good/buffer.ts --to v1 -o -

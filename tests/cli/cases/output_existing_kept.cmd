@@ -1,0 +1,5 @@
+echo old >out.s1p
+touchstone2 convert examples/good/antenna.s1p -o out.s1p
+echo "exit $?"
+cat out.s1p
+ls -A

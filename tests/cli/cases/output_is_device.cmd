@@ -1,0 +1,3 @@
+touchstone2 convert examples/good/antenna.s1p -o /dev/null --force
+echo "exit $?"
+test -c /dev/null

@@ -1,0 +1,2 @@
+mkfifo pipe
+touchstone2 convert examples/good/antenna.s1p -o pipe --force

@@ -1,0 +1,2 @@
+touchstone2 convert examples/good/antenna.s1p -o ./-
+touchstone2 check ./-

@@ -1,0 +1,4 @@
+# nohup: a signal that was ignored before stays ignored.
+trap '' HUP
+FAULT=HUP LD_PRELOAD=$FAULTS touchstone2 convert examples/good/antenna.s1p -o out.s1p
+touchstone2 check out.s1p

@@ -1,0 +1,1 @@
+touchstone2 ports examples/good/coupler.s4p --from examples -o out.s4p

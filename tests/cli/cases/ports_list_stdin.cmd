@@ -1,0 +1,1 @@
+touchstone2 ports - <examples/good/antenna_amplifier.ts

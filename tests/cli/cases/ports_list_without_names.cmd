@@ -1,0 +1,1 @@
+touchstone2 ports examples/good/amplifier.s2p

@@ -1,0 +1,1 @@
+touchstone2 ports examples/good/coupler.s4p --set 5=a -o out.s4p

@@ -1,0 +1,5 @@
+touchstone2 reorder examples/good/transistor_h.s2p --order 2,1 -o turned.s2p
+echo "exit $?"
+touchstone2 reorder examples/good/transistor_h.s2p --order 1,2 -o same.s2p
+echo "exit $?"
+ls

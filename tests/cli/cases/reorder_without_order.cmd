@@ -1,0 +1,1 @@
+touchstone2 reorder examples/good/coupler.s4p -o out.s4p

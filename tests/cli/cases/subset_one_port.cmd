@@ -1,0 +1,1 @@
+touchstone2 subset examples/good/splitter.s3p --ports 1=feed -o -

@@ -1,0 +1,1 @@
+touchstone2 subset examples/good/coupler.s4p -o out.s4p

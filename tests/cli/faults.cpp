@@ -1,0 +1,77 @@
+// Loaded in front of the C library by some cases, to make the tool's files fail at a chosen
+// point. FAULT says how:
+//
+//     full-disk     the second half of a write finds no space
+//     bad-disk      fsync fails
+//     no-links      the file system has no hard links
+//     no-rename     renaming fails
+//     appear        while the output is being written, somebody else creates $FAULT_FILE
+//     TERM, INT, HUP, QUIT   the process gets this signal while the output is not complete
+#include <cerrno>
+#include <csignal>
+#include <cstddef>
+#include <cstdlib>
+#include <cstring>
+
+#include <dlfcn.h>
+#include <fcntl.h>
+#include <sys/types.h>
+#include <unistd.h>
+
+namespace {
+
+bool fault_is(const char* name) {
+  const char* const fault = std::getenv("FAULT");
+  return fault != nullptr && std::strcmp(fault, name) == 0;
+}
+
+int fail(int error_number) {
+  errno = error_number;
+  return -1;
+}
+
+template <typename Function>
+Function* next(const char* name) {
+  return reinterpret_cast<Function*>(::dlsym(RTLD_NEXT, name));
+}
+
+void create(const char* path) {
+  const int descriptor = ::open(path, O_WRONLY | O_CREAT, 0644);
+  next<ssize_t(int, const void*, std::size_t)>("write")(descriptor, "theirs\n", 7);
+  ::close(descriptor);
+}
+
+}  // namespace
+
+extern "C" ssize_t write(int descriptor, const void* bytes, std::size_t size) {
+  static bool half_written = false;
+  if (descriptor > 2 && fault_is("full-disk")) {
+    if (half_written) return fail(ENOSPC);
+    half_written = true;
+    size /= 2;
+  }
+  return next<ssize_t(int, const void*, std::size_t)>("write")(descriptor, bytes, size);
+}
+
+extern "C" int fsync(int descriptor) {
+  const struct {
+    const char* name;
+    int number;
+  } signals[] = {{"TERM", SIGTERM}, {"INT", SIGINT}, {"HUP", SIGHUP}, {"QUIT", SIGQUIT}};
+  for (const auto& each : signals) {
+    if (fault_is(each.name)) ::raise(each.number);
+  }
+  if (fault_is("bad-disk")) return fail(EIO);
+  if (fault_is("appear")) create(std::getenv("FAULT_FILE"));
+  return next<int(int)>("fsync")(descriptor);
+}
+
+extern "C" int link(const char* from, const char* to) noexcept {
+  if (fault_is("no-links")) return fail(EPERM);
+  return next<int(const char*, const char*)>("link")(from, to);
+}
+
+extern "C" int rename(const char* from, const char* to) noexcept {
+  if (fault_is("no-rename")) return fail(EACCES);
+  return next<int(const char*, const char*)>("rename")(from, to);
+}
