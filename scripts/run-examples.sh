@@ -24,4 +24,10 @@ show() {
 show 0 touchstone2 check examples/good
 show 1 touchstone2 check examples/broken
 show 0 touchstone2 info examples/good/amplifier.s2p
+show 0 touchstone2 ports examples/good/coupler.s4p
+show 0 touchstone2 ports examples/good/coupler.s4p --set 2=out -o build/run/named.s4p --force
+show 0 touchstone2 ports build/run/named.s4p
+show 0 touchstone2 subset examples/good/coupler.s4p --ports 1=in,3=out -o -
+show 0 touchstone2 convert examples/good/connector.s4p --to v1 -o build/run/full.s4p --force
+show 0 touchstone2 info build/run/full.s4p
 printf '\nThe tool is %s\n' "$touchstone2"
