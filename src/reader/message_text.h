@@ -12,7 +12,7 @@ namespace touchstone2::detail {
 
 // A fixed-capacity string: appending never throws and never moves the characters, so a pointer
 // to them stays good however often the text is composed anew. What does not fit is dropped;
-// the longest message, KeywordOrderingError with 127 characters of keyword, takes 156.
+// the longest message, KeywordOrderingError with 127 characters of keyword, takes 153.
 class MessageText {
  public:
   void clear() { end_ = characters_; }
