@@ -37,3 +37,4 @@ step "gcc, release" check_preset release
 step "clang, release" check_preset clang
 step "gcc, address and undefined behaviour sanitizers" check_preset asan
 step "clang-tidy" scripts/tidy.sh
+step "instructions per byte" scripts/check_instructions.sh
