@@ -8,12 +8,17 @@
 #include <cerrno>
 #include <csignal>
 #include <cstdio>
+#include <cstdlib>
 #include <stdexcept>
 #include <system_error>
 
 #ifdef _WIN32
 #include <fcntl.h>
 #include <io.h>
+#ifndef NOMINMAX
+#define NOMINMAX
+#endif
+#include <windows.h>  // with the shell's part
 #endif
 
 namespace tool {
@@ -21,6 +26,28 @@ namespace tool {
 namespace {
 
 std::string reason_of(int error_number) { return std::generic_category().message(error_number); }
+
+#ifdef _WIN32
+UINT code_page_before = 0;
+
+void restore_code_page() { ::SetConsoleOutputCP(code_page_before); }
+
+// Output is UTF-8; a console, if there is one, has to know. It belongs to others, too.
+void prepare_console() {
+  code_page_before = ::GetConsoleOutputCP();
+  if (code_page_before == 0 || code_page_before == CP_UTF8) return;
+  if (::SetConsoleOutputCP(CP_UTF8) != 0) std::atexit(restore_code_page);
+}
+
+std::string to_utf8(std::wstring_view text) {
+  const int units = static_cast<int>(text.size());
+  const int bytes =
+      ::WideCharToMultiByte(CP_UTF8, 0, text.data(), units, nullptr, 0, nullptr, nullptr);
+  std::string utf8(static_cast<std::size_t>(bytes), '\0');
+  ::WideCharToMultiByte(CP_UTF8, 0, text.data(), units, utf8.data(), bytes, nullptr, nullptr);
+  return utf8;
+}
+#endif
 
 }  // namespace
 
@@ -34,8 +61,28 @@ void prepare_streams() {
 #ifdef _WIN32
   _setmode(_fileno(stdin), _O_BINARY);
   _setmode(_fileno(stdout), _O_BINARY);
+  _setmode(_fileno(stderr), _O_BINARY);
+  prepare_console();
 #endif
 }
+
+#ifdef _WIN32
+// The text of argv has lost what the process's code page does not have.
+std::vector<std::string> command_line_arguments(int /*argc*/, char** /*argv*/) {
+  int count = 0;
+  wchar_t** const wide = ::CommandLineToArgvW(::GetCommandLineW(), &count);
+  if (wide == nullptr) throw std::runtime_error("cannot read the command line");
+  std::vector<std::string> arguments;
+  for (int i = 1; i < count; ++i) arguments.push_back(to_utf8(wide[i]));
+  ::LocalFree(wide);
+  return arguments;
+}
+#else
+std::vector<std::string> command_line_arguments(int argc, char** argv) {
+  if (argc < 1) return {};
+  return {argv + 1, argv + argc};
+}
+#endif
 
 void write_output(std::string_view text) {
   errno = 0;

@@ -5,6 +5,7 @@
 #include <stdexcept>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace tool {
 
@@ -29,6 +30,9 @@ class Refusal : public std::runtime_error {
 /// Lets a closed pipe and a limit on file sizes show up as failed writes and makes the standard
 /// streams binary. Call it first.
 void prepare_streams();
+
+/// The arguments behind the program's name; UTF-8 on Windows, the bytes as given elsewhere.
+std::vector<std::string> command_line_arguments(int argc, char** argv);
 
 /// Writes to standard output and flushes it, so that readers get every record at once and
 /// the order with standard error is kept.

@@ -3,10 +3,10 @@
 
 #include <touchstone2/version.h>
 
+#include <algorithm>
 #include <exception>
 #include <new>
 #include <string>
-#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -44,15 +44,14 @@ int usage_error(const CLI::App& app, const CLI::ParseError& error) {
   return tool::kNotDone;
 }
 
-// The arguments in the reverse order that CLI::App::parse takes. It would take "[a]" for a
-// list; "./[a]" names the same file.
-std::vector<std::string> arguments_of(int argc, char** argv) {
-  std::vector<std::string> arguments;
-  for (int i = argc - 1; i > 0; --i) {
-    const std::string_view argument = argv[i];
+// CLI::App::parse takes arguments in reverse order. It would take "[a]" for a list; "./[a]"
+// names the same file.
+std::vector<std::string> for_parser(std::vector<std::string> arguments) {
+  for (std::string& argument : arguments) {
     const bool is_list = argument.starts_with('[') && argument.ends_with(']');
-    arguments.push_back((is_list ? "./" : "") + std::string(argument));
+    if (is_list) argument.insert(0, "./");
   }
+  std::reverse(arguments.begin(), arguments.end());
   return arguments;
 }
 
@@ -87,7 +86,7 @@ int run(std::vector<std::string> arguments) {
 int main(int argc, char** argv) {
   try {
     tool::prepare_streams();
-    return run(arguments_of(argc, argv));
+    return run(for_parser(tool::command_line_arguments(argc, argv)));
   } catch (const tool::ClosedPipe&) {
     return tool::kClosedPipe;
   } catch (const tool::Refusal& refusal) {

@@ -49,6 +49,7 @@ int reorder(const ReorderOptions& options) {
 
   const std::vector<std::string>& names = source.file().get_port_names();
   std::vector<std::pair<std::size_t, std::string>> selection;
+  selection.reserve(count);
   for (const PortEntry& entry : order)
     selection.emplace_back(entry.port - 1, names[entry.port - 1]);
   const OwnedFile result = copy_of_ports(source.file(), selection);

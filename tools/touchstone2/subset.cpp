@@ -27,6 +27,7 @@ need both ports in their order. Noise data need both ports. The version is kept.
 std::vector<std::pair<std::size_t, std::string>> selection_of(
     const std::vector<PortEntry>& entries, const std::vector<std::string>& names) {
   std::vector<std::pair<std::size_t, std::string>> selection;
+  selection.reserve(entries.size());
   for (const PortEntry& entry : entries) {
     const std::size_t index = entry.port - 1;
     selection.emplace_back(index, entry.name ? *entry.name : names[index]);
