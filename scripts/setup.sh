@@ -5,6 +5,9 @@
 #   setup.sh build   to build and use the library and the tool
 #   setup.sh check   that, and all that the tests and checks need
 #   setup.sh bench   that of build, and what the benchmarks need
+#   setup.sh libcxx  that of build, and what the tests with clang and libc++ need
+#   setup.sh abi     that of build, and what compares binary interfaces
+#   setup.sh windows that of build, and what builds and runs all for 64-bit Windows
 set -euo pipefail
 
 packages=(
@@ -25,6 +28,19 @@ case "${1:-check}" in
         ;;
     bench)
         packages+=(libbenchmark-dev python3)
+        ;;
+    libcxx)
+        packages+=(clang libc++-dev libc++abi-dev googletest git python3)
+        ;;
+    abi)
+        packages+=(abigail-tools)
+        ;;
+    windows)
+        packages+=(
+            g++-mingw-w64-x86-64-posix # the variant that has std::thread
+            wine wine64
+            googletest git python3
+        )
         ;;
     *)
         echo "setup: what is '$1'? See the head of this script." >&2

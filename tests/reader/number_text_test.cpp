@@ -233,6 +233,8 @@ RealText expected_of(const std::string& text) {
   const bool negative = text[0] == '-';
   if (std::isinf(value)) return {negative ? -kLargest : kLargest, kTooLarge};
   const std::string mantissa = text.substr(0, text.find_first_of("eE"));
+  // Without a digit nothing is converted; not every C library gives a positive zero then.
+  if (mantissa.find_first_of("0123456789") == std::string::npos) return {0.0, kNormal};
   const bool is_zero = mantissa.find_first_of("123456789") == std::string::npos;
   if (!is_zero && std::fabs(value) < DBL_MIN) {
     return {negative ? -kSmallest : kSmallest, kTooSmall};

@@ -177,6 +177,7 @@ TEST(Streams, WithoutABuffer) {
   EXPECT_TRUE(stream.bad());
 }
 
+#ifndef _WIN32
 TEST(Streams, FullDevice) {
   const char* const device = "/dev/full";
   if (!std::filesystem::exists(device)) GTEST_SKIP() << "there is no " << device;
@@ -189,6 +190,7 @@ TEST(Streams, FullDevice) {
     EXPECT_FALSE(stream.good());
   }
 }
+#endif
 
 TEST(Streams, ClosedFile) {
   ReadResult source = read_text(source_text(3));
