@@ -8,6 +8,7 @@ fails if there is any. The tables below are the rule; what they mean:
   include itself, the standard library and the folders listed for it.
 - A public header includes public headers only.
 - Tools and examples are callers: public headers, and files of their own folder.
+  Of the tool's folders, too, each may include those that are listed for it.
 - Tests, benchmarks and fuzz targets may include anything of the library.
 - Headers of an operating system stand in the files that map a file to memory,
   <iostream> in the one that prints.
@@ -38,6 +39,18 @@ FOR_ALL = {"export.h", "version.h"}
 UMBRELLA = "touchstone2.h"
 
 CALLERS = {"tools", "examples"}
+
+# The same for the folders of the tool; main.cpp may include them all.
+TOOL = "tools/touchstone2/"
+TOOL_MAY_INCLUDE = {
+    "text": set(),
+    "terminal": set(),
+    "diagnostics": {"terminal", "text"},
+    "json": {"diagnostics", "text"},
+    "inputs": {"terminal", "text"},
+    "outputs": {"diagnostics", "inputs", "terminal", "text"},
+    "commands": {"diagnostics", "inputs", "json", "outputs", "terminal", "text"},
+}
 UNRESTRICTED = {"tests", "bench", "fuzz"}
 
 SYSTEM_HEADERS = re.compile(r"src/reader/mapped_file_\w+\.cpp")
@@ -105,6 +118,8 @@ class Checker:
         top = self.name(file).split("/")[0]
         if top in UNRESTRICTED:
             folders.append(self.root / top)
+        if self.name(file).startswith(TOOL):
+            folders.append(self.root / TOOL)
         if quoted:
             folders.insert(0, file.parent)
         for folder in folders:
@@ -127,9 +142,11 @@ class Checker:
         if top in CALLERS:
             own = self.root / top
             public = self.root / "include"
-            if own in target.parents or public in target.parents:
+            if public in target.parents:
                 return None
-            return f"{top} includes public headers only"
+            if own not in target.parents:
+                return f"{top} includes public headers only"
+            return self.judge_inside_tool(file, target)
         return self.judge_inside(file, target)
 
     def judge_inside(self, file, target):
@@ -150,6 +167,20 @@ class Checker:
         if folder not in MAY_INCLUDE:
             return f"no rule for the folder {folder}; add it to check_layers.py"
         if target_folder in MAY_INCLUDE[folder] or to_path in MAY_INCLUDE[folder]:
+            return None
+        return f"{folder} may not include {target_folder}"
+
+    def judge_inside_tool(self, file, target):
+        """Both are files of tools or examples."""
+        if not self.name(file).startswith(TOOL):
+            return None
+        folder = self.name(file).removeprefix(TOOL).split("/")[0]
+        target_folder = self.name(target).removeprefix(TOOL).split("/")[0]
+        if folder in (target_folder, "main.cpp"):
+            return None
+        if folder not in TOOL_MAY_INCLUDE:
+            return f"no rule for the tool's folder {folder}; add it to check_layers.py"
+        if target_folder in TOOL_MAY_INCLUDE[folder]:
             return None
         return f"{folder} may not include {target_folder}"
 

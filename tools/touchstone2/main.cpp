@@ -12,13 +12,13 @@
 
 #include <CLI/CLI.hpp>
 
-#include "check.h"
-#include "console.h"
-#include "convert.h"
-#include "info.h"
-#include "ports.h"
-#include "reorder.h"
-#include "subset.h"
+#include "commands/check.h"
+#include "commands/convert.h"
+#include "commands/info.h"
+#include "commands/ports.h"
+#include "commands/reorder.h"
+#include "commands/subset.h"
+#include "terminal/console.h"
 
 namespace {
 

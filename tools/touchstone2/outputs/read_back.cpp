@@ -2,7 +2,7 @@
 // them, numbers as bits: rounded with to_chars and read with strtod, which have nothing in
 // common with the code of the writers and the reader.
 
-#include "read_back.h"
+#include "outputs/read_back.h"
 
 #include <touchstone2/reader/parser.h>
 
@@ -18,9 +18,9 @@
 #include <utility>
 #include <vector>
 
-#include "console.h"
-#include "report.h"
-#include "value_text.h"
+#include "diagnostics/report.h"
+#include "terminal/console.h"
+#include "text/value_text.h"
 
 namespace tool {
 

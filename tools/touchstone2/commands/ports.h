@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "writing.h"
+#include "outputs/writing.h"
 
 namespace CLI {
 class App;

@@ -4,7 +4,7 @@
 
 #include <string>
 
-#include "writing.h"
+#include "outputs/writing.h"
 
 namespace CLI {
 class App;

@@ -1,7 +1,7 @@
 // Reading one input. Standard input is read to its end first, because a pipe can not be
 // mapped; a named file is left to the library.
 
-#include "source_file.h"
+#include "inputs/source_file.h"
 
 #include <touchstone2/reader/parser.h>
 
@@ -9,8 +9,8 @@
 #include <sstream>
 #include <stdexcept>
 
-#include "console.h"
-#include "path_text.h"
+#include "inputs/path_text.h"
+#include "terminal/console.h"
 
 namespace tool {
 

@@ -1,7 +1,7 @@
 // Finds the digits by trying. The least that can do is guessed from the numbers first, so that
 // most files are written and read back once.
 
-#include "rendering.h"
+#include "outputs/rendering.h"
 
 #include <touchstone2/writer/v1_writer.h>
 #include <touchstone2/writer/v2_writer.h>
@@ -14,8 +14,8 @@
 #include <stdexcept>
 #include <utility>
 
-#include "console.h"
-#include "read_back.h"
+#include "outputs/read_back.h"
+#include "terminal/console.h"
 
 namespace tool {
 

@@ -1,11 +1,11 @@
 // Model and diagnostics to JSON. Lists are built member by member: braces would let the JSON
 // library guess between arrays and objects.
 
-#include "json_report.h"
+#include "json/json_report.h"
 
 #include <nlohmann/json.hpp>
 
-#include "value_text.h"
+#include "text/value_text.h"
 
 namespace tool {
 

@@ -1,6 +1,6 @@
 // Every port once, in a new order.
 
-#include "reorder.h"
+#include "commands/reorder.h"
 
 #include <memory>
 #include <stdexcept>
@@ -9,9 +9,9 @@
 
 #include <CLI/CLI.hpp>
 
-#include "console.h"
-#include "port_list.h"
-#include "value_text.h"
+#include "inputs/port_list.h"
+#include "terminal/console.h"
+#include "text/value_text.h"
 
 namespace tool {
 

@@ -12,7 +12,7 @@
 #include <utility>
 #include <vector>
 
-#include "source_file.h"
+#include "inputs/source_file.h"
 
 namespace CLI {
 class App;

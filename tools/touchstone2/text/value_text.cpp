@@ -1,7 +1,7 @@
 // Texts of the model's values. Frequencies are scaled as decimal digits and not as doubles:
 // the file's unit is a power of ten and so is the unit that is shown.
 
-#include "value_text.h"
+#include "text/value_text.h"
 
 #include <array>
 #include <charconv>

@@ -1,7 +1,7 @@
 // Reads every input in turn. One that can not be read at all (no memory for it, say) is told
 // of and does not keep the others from being checked.
 
-#include "check.h"
+#include "commands/check.h"
 
 #include <exception>
 #include <memory>
@@ -10,12 +10,12 @@
 #include <CLI/CLI.hpp>
 #include <nlohmann/json.hpp>
 
-#include "console.h"
-#include "input_files.h"
-#include "json_report.h"
-#include "report.h"
-#include "source_file.h"
-#include "value_text.h"
+#include "diagnostics/report.h"
+#include "inputs/input_files.h"
+#include "inputs/source_file.h"
+#include "json/json_report.h"
+#include "terminal/console.h"
+#include "text/value_text.h"
 
 namespace tool {
 

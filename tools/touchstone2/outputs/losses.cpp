@@ -1,7 +1,7 @@
 // Comments are counted in the text itself: the library keeps the leading ones and, of version 1,
 // those between the records, but none of those at line ends or between keywords.
 
-#include "losses.h"
+#include "outputs/losses.h"
 
 #include <touchstone2/portnames/comment_processor.h>
 
@@ -10,8 +10,8 @@
 #include <string>
 #include <string_view>
 
-#include "console.h"
-#include "value_text.h"
+#include "terminal/console.h"
+#include "text/value_text.h"
 
 namespace tool {
 

@@ -5,7 +5,7 @@
 #include <touchstone2/copier/file_copier.h>
 #include <touchstone2/model/file.h>
 
-#include "source_file.h"
+#include "inputs/source_file.h"
 
 namespace tool {
 

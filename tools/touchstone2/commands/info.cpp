@@ -1,7 +1,7 @@
 // A page about one file. Comments and names come from the file and are shown with control
 // characters made visible.
 
-#include "info.h"
+#include "commands/info.h"
 
 #include <touchstone2/model/file.h>
 
@@ -12,11 +12,11 @@
 #include <CLI/CLI.hpp>
 #include <nlohmann/json.hpp>
 
-#include "console.h"
-#include "json_report.h"
-#include "report.h"
-#include "source_file.h"
-#include "value_text.h"
+#include "diagnostics/report.h"
+#include "inputs/source_file.h"
+#include "json/json_report.h"
+#include "terminal/console.h"
+#include "text/value_text.h"
 
 namespace tool {
 

@@ -13,7 +13,7 @@
 
 #include <nlohmann/json_fwd.hpp>
 
-#include "report.h"
+#include "diagnostics/report.h"
 
 namespace tool {
 

@@ -8,7 +8,7 @@
 #include <stdexcept>
 #include <system_error>
 
-#include "temporary_file.h"
+#include "outputs/temporary_file.h"
 
 #ifndef WIN32_LEAN_AND_MEAN
 #define WIN32_LEAN_AND_MEAN

@@ -1,6 +1,6 @@
 // Some ports in a given order. A port without a new name keeps its own.
 
-#include "subset.h"
+#include "commands/subset.h"
 
 #include <memory>
 #include <utility>
@@ -8,8 +8,8 @@
 
 #include <CLI/CLI.hpp>
 
-#include "console.h"
-#include "port_list.h"
+#include "inputs/port_list.h"
+#include "terminal/console.h"
 
 namespace tool {
 

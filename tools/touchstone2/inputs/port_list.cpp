@@ -1,12 +1,12 @@
 // A list is cut at its commas first, so a name in it has none.
 
-#include "port_list.h"
+#include "inputs/port_list.h"
 
 #include <algorithm>
 #include <charconv>
 #include <stdexcept>
 
-#include "value_text.h"
+#include "text/value_text.h"
 
 namespace tool {
 

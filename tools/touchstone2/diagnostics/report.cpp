@@ -1,7 +1,7 @@
 // The two handlers. Errors and warnings are unrelated classes with the same members, hence
 // the one template.
 
-#include "report.h"
+#include "diagnostics/report.h"
 
 namespace tool {
 

@@ -14,7 +14,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include "temporary_file.h"
+#include "outputs/temporary_file.h"
 
 namespace tool {
 

@@ -2,7 +2,7 @@
 // iostreams do not. Together with the implementations of TemporaryFile these are the files here
 // that know one platform from another.
 
-#include "console.h"
+#include "terminal/console.h"
 
 #include <array>
 #include <cerrno>

@@ -1,13 +1,13 @@
 // Everything about output files but what the systems do differently.
 
-#include "output_file.h"
+#include "outputs/output_file.h"
 
 #include <filesystem>
 #include <stdexcept>
 #include <system_error>
 
-#include "console.h"
-#include "path_text.h"
+#include "inputs/path_text.h"
+#include "terminal/console.h"
 
 namespace tool {
 

@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-#include "temporary_file.h"
+#include "outputs/temporary_file.h"
 
 namespace tool {
 

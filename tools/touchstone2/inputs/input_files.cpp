@@ -1,13 +1,13 @@
 // Folder walks with std::filesystem and error codes only: one folder that cannot be read
 // must not end the walk.
 
-#include "input_files.h"
+#include "inputs/input_files.h"
 
 #include <algorithm>
 #include <filesystem>
 #include <system_error>
 
-#include "path_text.h"
+#include "inputs/path_text.h"
 
 namespace tool {
 

@@ -1,6 +1,6 @@
 // Version 1 has no triangles: a symmetric matrix is copied into a full one first.
 
-#include "convert.h"
+#include "commands/convert.h"
 
 #include <touchstone2/copier/file_copier.h>
 
@@ -9,7 +9,7 @@
 
 #include <CLI/CLI.hpp>
 
-#include "console.h"
+#include "terminal/console.h"
 
 namespace tool {
 

@@ -1,6 +1,6 @@
 // The text is complete and compared before the output is touched.
 
-#include "writing.h"
+#include "outputs/writing.h"
 
 #include <touchstone2/copier/file_copier.h>
 #include <touchstone2/reader/diagnostics.h>
@@ -10,12 +10,12 @@
 
 #include <CLI/CLI.hpp>
 
-#include "console.h"
-#include "losses.h"
-#include "output_file.h"
-#include "rendering.h"
-#include "report.h"
-#include "value_text.h"
+#include "diagnostics/report.h"
+#include "outputs/losses.h"
+#include "outputs/output_file.h"
+#include "outputs/rendering.h"
+#include "terminal/console.h"
+#include "text/value_text.h"
 
 namespace tool {
 

@@ -1,7 +1,7 @@
 // A list of names has the form in which names are listed, so that the names of one file can be
 // given to another.
 
-#include "ports.h"
+#include "commands/ports.h"
 
 #include <touchstone2/model/file.h>
 
@@ -14,10 +14,10 @@
 
 #include <CLI/CLI.hpp>
 
-#include "console.h"
-#include "path_text.h"
-#include "port_list.h"
-#include "value_text.h"
+#include "inputs/path_text.h"
+#include "inputs/port_list.h"
+#include "terminal/console.h"
+#include "text/value_text.h"
 
 namespace tool {
 
