@@ -17,6 +17,7 @@ constexpr std::size_t kFieldWidth = 20;
 // A double has at most 767 significant digits; the zeros behind them are not written.
 constexpr std::streamsize kMostDigits = 767;
 constexpr std::size_t kMostLongNumberBytes = kMostDigits + 400;
+constexpr std::size_t kMostFieldBytes = kMostLongNumberBytes + kFieldWidth;
 
 // The digits that a stream of this precision writes.
 int significant_digits(std::streamsize precision) {
@@ -28,6 +29,16 @@ char* format_any_number(char* out, double value, int digits) {
   if (digits <= 17) return format_number(out, value, digits);
   return std::to_chars(out, out + kMostLongNumberBytes, value, std::chars_format::general, digits)
       .ptr;
+}
+
+// Returns the end of the field. Nearly always it is as wide as it should be; as long as the
+// padding stands in the branch, a processor foresees that and starts with the next number before
+// it knows this one's length.
+char* format_field(char* out, double value, int digits) {
+  char* const end = format_any_number(out, value, digits);
+  if (end >= out + kFieldWidth) return end;
+  std::memset(end, ' ', kFieldWidth);
+  return out + kFieldWidth;
 }
 
 }  // namespace
@@ -58,10 +69,19 @@ void TextBuffer::append_number(double value, std::streamsize precision) {
 }
 
 void TextBuffer::append_field(double value, std::streamsize precision) {
-  char* const begin = room_for(kMostLongNumberBytes);
-  char* const end = format_any_number(begin, value, significant_digits(precision));
-  std::memset(end, ' ', kFieldWidth);
-  size_ += std::max(static_cast<std::size_t>(end - begin), kFieldWidth);
+  char* const begin = room_for(kMostFieldBytes);
+  char* const end = format_field(begin, value, significant_digits(precision));
+  size_ += static_cast<std::size_t>(end - begin);
+}
+
+void TextBuffer::append_pair(double a, double b, std::streamsize precision) {
+  const int digits = significant_digits(precision);
+  char* const begin = room_for(2 * kMostFieldBytes + 3);
+  std::memset(begin, ' ', 2);
+  char* out = format_field(begin + 2, a, digits);
+  *out++ = ' ';
+  out = format_field(out, b, digits);
+  size_ += static_cast<std::size_t>(out - begin);
 }
 
 void TextBuffer::append_field(std::string_view text) {

@@ -30,6 +30,9 @@ class TextBuffer {
   void append_field(double value, std::streamsize precision);
   void append_field(std::string_view text);
 
+  // Two such columns with the blanks in front of each: two, then one.
+  void append_pair(double a, double b, std::streamsize precision);
+
   // Hands everything over to the stream; does not flush the stream itself.
   void flush();
 

@@ -148,10 +148,7 @@ void Writer::write_network_params(std::ostream& os, bool write_header, bool colu
         auto [a, b] = params->cell(k, row, col).as_format(format);
         normalize_network_data(a, b, i, j);
         os.precision(precision_);
-        text.append("  ");
-        text.append_field(a, precision_);
-        text.append(" ");
-        text.append_field(b, precision_);
+        text.append_pair(a, b, precision_);
       }
     }
     text.append("\n");

@@ -36,6 +36,25 @@ TEST(TextBuffer, NumbersAndFieldsAsAStreamWritesThem) {
   }
 }
 
+// At 14 digits of 20, 21 and 22 characters, and shorter ones beside them.
+TEST(TextBuffer, PairsAsAStreamWritesThem) {
+  const double values[] = {0.5, -0.00012345678901234, -1.2345678901234e-10, -1.2345678901234e-100};
+  for (const double a : values) {
+    for (const double b : values) {
+      for (const std::streamsize precision : {-1, 0, 6, 14, 17, 40, 800}) {
+        std::ostringstream os;
+        TextBuffer text(os);
+        text.append_pair(a, b, precision);
+        text.append("|");
+        text.flush();
+        EXPECT_EQ(os.str(),
+                  "  " + by_stream(a, precision, 20) + " " + by_stream(b, precision, 20) + "|")
+            << a << " " << b << " " << precision;
+      }
+    }
+  }
+}
+
 TEST(TextBuffer, FieldsOfText) {
   std::ostringstream os;
   TextBuffer text(os);
