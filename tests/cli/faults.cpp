@@ -6,7 +6,7 @@
 //     no-links      the file system has no hard links
 //     no-rename     renaming fails
 //     appear        while the output is being written, somebody else creates $FAULT_FILE
-//     TERM, INT, HUP, QUIT   the process gets this signal while the output is not complete
+//     TERM, INT, HUP, QUIT, KILL   the process gets this signal while the output is not complete
 #include <cerrno>
 #include <csignal>
 #include <cstddef>
@@ -57,7 +57,8 @@ extern "C" int fsync(int descriptor) {
   const struct {
     const char* name;
     int number;
-  } signals[] = {{"TERM", SIGTERM}, {"INT", SIGINT}, {"HUP", SIGHUP}, {"QUIT", SIGQUIT}};
+  } signals[] = {
+      {"TERM", SIGTERM}, {"INT", SIGINT}, {"HUP", SIGHUP}, {"QUIT", SIGQUIT}, {"KILL", SIGKILL}};
   for (const auto& each : signals) {
     if (fault_is(each.name)) ::raise(each.number);
   }
