@@ -27,6 +27,17 @@ namespace {
 
 std::string reason_of(int error_number) { return std::generic_category().message(error_number); }
 
+// After a failed write.
+bool pipe_is_closed() {
+#ifdef _WIN32
+  const unsigned long reason = _doserrno;  // errno is EINVAL
+  return reason == ERROR_NO_DATA || reason == ERROR_BROKEN_PIPE ||
+         reason == ERROR_PIPE_NOT_CONNECTED;
+#else
+  return errno == EPIPE;
+#endif
+}
+
 #ifdef _WIN32
 UINT code_page_before = 0;
 
@@ -88,7 +99,7 @@ void write_output(std::string_view text) {
   errno = 0;
   const bool written = std::fwrite(text.data(), 1, text.size(), stdout) == text.size();
   if (written && std::fflush(stdout) == 0) return;
-  if (errno == EPIPE) throw ClosedPipe{};
+  if (pipe_is_closed()) throw ClosedPipe{};
   throw std::runtime_error("cannot write to standard output: " + reason_of(errno));
 }
 
