@@ -1,3 +1,4 @@
+# only on POSIX systems: links
 # A link to a folder is not followed below the one that was named, a broken link is a missing file.
 mkdir tree
 cp examples/good/antenna.s1p tree

@@ -1,3 +1,4 @@
+# only on POSIX systems: names of any bytes
 # A name of any bytes finds its file, in a folder, too.
 mkdir tree
 name=$(printf 'tree/Stra\337e.s1p')

@@ -1,3 +1,4 @@
+# only on POSIX systems: the library of faults
 # The old file stays, and nothing else does.
 for fault in full-disk bad-disk no-rename; do
     echo old >out.s1p

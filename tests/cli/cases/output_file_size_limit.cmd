@@ -1,3 +1,4 @@
+# only on POSIX systems: a limit of the shell
 echo old >out.s4p
 (
     ulimit -f 1

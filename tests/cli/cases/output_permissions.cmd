@@ -1,3 +1,4 @@
+# only on POSIX systems: permissions as three digits
 # A new file has those of any new file, an old one keeps its own.
 umask 027
 touchstone2 convert examples/good/antenna.s1p -o new.s1p

@@ -1,3 +1,4 @@
+# only on POSIX systems: the library of faults
 # The tool ends by the signal, the old file stays, and nothing else does.
 ulimit -c 0
 for fault in TERM INT HUP QUIT; do

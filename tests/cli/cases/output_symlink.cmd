@@ -1,3 +1,4 @@
+# only on POSIX systems: links
 # The link stays, and its target is replaced.
 mkdir data
 echo old >data/real.s1p
