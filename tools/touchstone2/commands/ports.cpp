@@ -42,7 +42,7 @@ std::vector<std::string> lines_of(const std::string& path) {
   if (path == "-") {
     standard_input.str(read_standard_input());
   } else {
-    named.open(to_path(path), std::ios::binary);
+    named.open(openable(to_path(path)), std::ios::binary);
     if (!named) throw std::runtime_error("cannot read '" + path + "'");
   }
   std::istream& text = path == "-" ? static_cast<std::istream&>(standard_input) : named;

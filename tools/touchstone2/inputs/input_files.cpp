@@ -1,12 +1,12 @@
-// Folder walks with std::filesystem and error codes only: one folder that cannot be read
-// must not end the walk.
+// Folder walks: one folder that cannot be read must not end the walk.
 
 #include "inputs/input_files.h"
 
 #include <algorithm>
 #include <filesystem>
-#include <system_error>
+#include <utility>
 
+#include "inputs/folder.h"
 #include "inputs/path_text.h"
 
 namespace tool {
@@ -19,32 +19,20 @@ bool is_digit(char c) { return c >= '0' && c <= '9'; }
 
 char to_lower(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
 
-// Looks through one folder: its files to `files`, its subfolders to `folders`.
-std::error_code list_folder(const fs::path& folder, std::vector<fs::path>& files,
-                            std::vector<fs::path>& folders) {
-  std::error_code failure;
-  fs::directory_iterator entry(folder, failure);
-  for (; !failure && entry != fs::directory_iterator(); entry.increment(failure)) {
-    std::error_code ignored;
-    if (fs::is_directory(entry->symlink_status(ignored))) {
-      folders.push_back(entry->path());
-    } else if (has_touchstone_ending(to_text(entry->path().filename())) &&
-               !entry->is_directory(ignored)) {
-      files.push_back(entry->path());
-    }
-  }
-  return failure;
-}
-
 std::vector<fs::path> list_tree(const fs::path& top, std::vector<std::string>& problems) {
   std::vector<fs::path> files;
   std::vector<fs::path> folders{top};
   while (!folders.empty()) {
     const fs::path folder = std::move(folders.back());
     folders.pop_back();
-    const std::error_code failure = list_folder(folder, files, folders);
-    if (failure) {
-      problems.push_back("cannot read folder '" + to_text(folder) + "': " + failure.message());
+    const FolderEntries entries = list_folder(folder);
+    for (const fs::path& name : entries.folders) folders.push_back(folder / name);
+    for (const fs::path& name : entries.files) {
+      if (has_touchstone_ending(to_text(name))) files.push_back(folder / name);
+    }
+    if (entries.failure) {
+      problems.push_back("cannot read folder '" + to_text(folder) +
+                         "': " + entries.failure.message());
     }
   }
   std::sort(files.begin(), files.end());
@@ -65,8 +53,7 @@ void expand_folder(const std::string& argument, InputList& list) {
 InputList expand_paths(const std::vector<std::string>& arguments) {
   InputList list;
   for (const std::string& argument : arguments) {
-    std::error_code ignored;
-    if (argument != "-" && fs::is_directory(to_path(argument), ignored)) {
+    if (argument != "-" && is_folder(to_path(argument))) {
       expand_folder(argument, list);
     } else {
       list.paths.push_back(argument);

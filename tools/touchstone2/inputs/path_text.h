@@ -8,14 +8,13 @@
 
 namespace tool {
 
-inline std::filesystem::path to_path(const std::string& text) {
-  return std::filesystem::path(std::u8string(text.begin(), text.end()));
-}
+std::filesystem::path to_path(const std::string& text);
+std::string to_text(const std::filesystem::path& path);
 
-inline std::string to_text(const std::filesystem::path& path) {
-  const std::u8string text = path.u8string();
-  return std::string(text.begin(), text.end());
-}
+/// The same file by a name that the system takes at any length. On Windows a long path has to
+/// be absolute and marked; everything else stays as it is. For the system only: names that are
+/// shown stay as they were given.
+std::filesystem::path openable(const std::filesystem::path& path);
 
 }  // namespace tool
 

@@ -41,7 +41,7 @@ bool SourceFile::read(touchstone2::MessageHandler& handler, Extent extent) {
 
 std::unique_ptr<std::istream> SourceFile::open_text() const {
   if (is_standard_input_) return std::make_unique<std::istringstream>(bytes_);
-  auto text = std::make_unique<std::ifstream>(to_path(path_), std::ios::binary);
+  auto text = std::make_unique<std::ifstream>(openable(to_path(path_)), std::ios::binary);
   if (!*text) throw std::runtime_error("cannot read '" + path_ + "' again");
   return text;
 }

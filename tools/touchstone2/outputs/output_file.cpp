@@ -21,9 +21,9 @@ constexpr int kMostLinks = 40;
 fs::path resolved(const std::string& path) {
   fs::path target = to_path(path);
   std::error_code failure;
-  for (int links = 0; fs::is_symlink(fs::symlink_status(target, failure)); ++links) {
+  for (int links = 0; fs::is_symlink(fs::symlink_status(openable(target), failure)); ++links) {
     if (links == kMostLinks) throw std::runtime_error("'" + path + "' is a loop of links");
-    const fs::path next = fs::read_symlink(target, failure);
+    const fs::path next = fs::read_symlink(openable(target), failure);
     if (failure) throw std::runtime_error("cannot read '" + path + "': " + failure.message());
     target = target.parent_path() / next;  // an absolute one stands alone
   }
@@ -36,7 +36,7 @@ void check_output(const std::string& path, Existing existing) {
   if (path == "-") return;
   if (path.empty()) throw std::runtime_error("the output has no name");
   std::error_code ignored;
-  const fs::file_status status = fs::status(resolved(path), ignored);
+  const fs::file_status status = fs::status(openable(resolved(path)), ignored);
   if (!fs::exists(status)) return;
   if (!fs::is_regular_file(status)) {
     throw std::runtime_error("'" + path + "' is not an ordinary file");

@@ -4,10 +4,10 @@
 
 #include <atomic>
 #include <cstddef>
-#include <limits>
 #include <stdexcept>
 #include <system_error>
 
+#include "inputs/path_text.h"
 #include "outputs/temporary_file.h"
 
 #ifndef WIN32_LEAN_AND_MEAN
@@ -24,16 +24,7 @@ namespace {
 
 constexpr int kAttempts = 100;
 
-// Names are UTF-8 outside and UTF-16 for the system. Empty for a name that is too long.
-std::wstring to_utf16(const std::string& utf8) {
-  if (utf8.size() > static_cast<std::size_t>(std::numeric_limits<int>::max())) return {};
-  const int length = static_cast<int>(utf8.size());
-  const int units = ::MultiByteToWideChar(CP_UTF8, 0, utf8.data(), length, nullptr, 0);
-  if (units <= 0) return {};
-  std::wstring utf16(static_cast<std::size_t>(units), L'\0');
-  ::MultiByteToWideChar(CP_UTF8, 0, utf8.data(), length, utf16.data(), units);
-  return utf16;
-}
+std::wstring wide(const std::string& name) { return openable(to_path(name)).wstring(); }
 
 // What a console event has to remove; null for nothing. The handler owns what it takes.
 std::atomic<std::wstring*> doomed_name = nullptr;
@@ -64,13 +55,13 @@ TemporaryFile::TemporaryFile(const std::string& target)
   for (int attempt = 0; handle_ == INVALID_HANDLE_VALUE; ++attempt) {
     name_ = folder_of(target) + ".touchstone2-" + std::to_string(::GetCurrentProcessId()) + "-" +
             std::to_string(attempt) + ".tmp";
-    handle_ = ::CreateFileW(to_utf16(name_).c_str(), GENERIC_WRITE, FILE_SHARE_DELETE, nullptr,
+    handle_ = ::CreateFileW(wide(name_).c_str(), GENERIC_WRITE, FILE_SHARE_DELETE, nullptr,
                             CREATE_NEW, FILE_ATTRIBUTE_NORMAL, nullptr);
     if (handle_ != INVALID_HANDLE_VALUE) break;
     const DWORD error_number = ::GetLastError();
     if (error_number != ERROR_FILE_EXISTS || attempt == kAttempts) fail(target, error_number);
   }
-  doomed_name = new std::wstring(to_utf16(name_));
+  doomed_name = new std::wstring(wide(name_));
 }
 
 TemporaryFile::~TemporaryFile() { discard(); }
@@ -103,7 +94,7 @@ void TemporaryFile::close() {
 void TemporaryFile::take_place(Existing existing) {
   const DWORD flags = MOVEFILE_WRITE_THROUGH |
                       (existing == Existing::replace ? MOVEFILE_REPLACE_EXISTING : DWORD{0});
-  if (::MoveFileExW(to_utf16(name_).c_str(), to_utf16(target_).c_str(), flags) == 0) {
+  if (::MoveFileExW(wide(name_).c_str(), wide(target_).c_str(), flags) == 0) {
     fail(target_, ::GetLastError());
   }
   delete doomed_name.exchange(nullptr);

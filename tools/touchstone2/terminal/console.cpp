@@ -1,6 +1,6 @@
 // Standard streams through C stdio: its errno tells a closed pipe from a full disk, which
-// iostreams do not. Together with the implementations of TemporaryFile these are the files here
-// that know one platform from another.
+// iostreams do not. Together with path_text.cpp and the files that end in _posix and _win32 this
+// is what knows one platform from another.
 
 #include "terminal/console.h"
 

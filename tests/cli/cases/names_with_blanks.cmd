@@ -1,0 +1,6 @@
+mkdir 'a folder'
+touchstone2 convert examples/good/amplifier.s2p -o 'a folder/an amplifier.s2p'
+touchstone2 check 'a folder/an amplifier.s2p' 'a folder'
+touchstone2 ports 'a folder/an amplifier.s2p' >'a folder/its names'
+touchstone2 ports 'a folder/an amplifier.s2p' --from 'a folder/its names' -o 'a folder/another one.s2p'
+ls 'a folder'
