@@ -296,6 +296,7 @@ TEST(MappedFile, FileThatAnotherProcessHasOpenForWritingIsNotFound) {
   ASSERT_NE(::CreateProcessW(nullptr, command.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr,
                              &startup, &process),
             0);
+  ::SetEnvironmentVariableW(kHeldFile, nullptr);
   const Handle thread(process.hThread);
   const Handle other(process.hProcess);
   ASSERT_EQ(::WaitForSingleObject(held.get(), 30'000), DWORD{WAIT_OBJECT_0});
