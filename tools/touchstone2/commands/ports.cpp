@@ -5,6 +5,7 @@
 
 #include <touchstone2/model/file.h>
 
+#include <filesystem>
 #include <fstream>
 #include <memory>
 #include <sstream>
@@ -14,6 +15,7 @@
 
 #include <CLI/CLI.hpp>
 
+#include "inputs/folder.h"
 #include "inputs/path_text.h"
 #include "inputs/port_list.h"
 #include "terminal/console.h"
@@ -42,8 +44,10 @@ std::vector<std::string> lines_of(const std::string& path) {
   if (path == "-") {
     standard_input.str(read_standard_input());
   } else {
-    named.open(openable(to_path(path)), std::ios::binary);
-    if (!named) throw std::runtime_error("cannot read '" + path + "'");
+    const std::filesystem::path list = to_path(path);
+    named.open(openable(list), std::ios::binary);
+    // Some standard libraries open a folder and find it empty.
+    if (!named || is_folder(list)) throw std::runtime_error("cannot read '" + path + "'");
   }
   std::istream& text = path == "-" ? static_cast<std::istream&>(standard_input) : named;
   std::vector<std::string> lines;
