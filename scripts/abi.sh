@@ -3,7 +3,7 @@
 # fields, tables of virtual functions, numbers of enumerators) with the one that is
 # kept in tests/abi, and fails at any difference, additions included. With --update
 # it keeps the present one; read what the comparison says before. For x86-64 Linux
-# and gcc; scripts/setup.sh abi installs what it needs.
+# and gcc. Installs what it needs.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
@@ -24,6 +24,7 @@ fi
 
 # With debugging information, which is where sizes and positions stand; without
 # this folder's name in it.
+scripts/setup.sh abi
 cmake -S . -B build/abi -G Ninja -DCMAKE_CXX_COMPILER=g++ -DCMAKE_BUILD_TYPE=Debug \
     -DCMAKE_CXX_FLAGS="-O1 -g -ffile-prefix-map=$PWD=." \
     -DTOUCHSTONE2_TESTS=OFF -DTOUCHSTONE2_TOOLS=OFF -DTOUCHSTONE2_BINDING=OFF \

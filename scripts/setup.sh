@@ -2,12 +2,14 @@
 # Installs, from the packages of the Debian (12 or later) this runs on, what is
 # needed. As root or with sudo; safe to run again.
 #
-#   setup.sh build   to build and use the library and the tool
-#   setup.sh check   that, and all that the tests and checks need
-#   setup.sh bench   that of build, and what the benchmarks need
-#   setup.sh libcxx  that of build, and what the tests with clang and libc++ need
-#   setup.sh abi     that of build, and what compares binary interfaces
-#   setup.sh windows that of build, and what builds and runs all for 64-bit Windows
+#   setup.sh [PART...]
+#
+#   build    to build and use the library and the tool; belongs to every part
+#   check    what the tests and checks need; without any PART it is this one
+#   bench    what the benchmarks need
+#   libcxx   what the tests with clang and libc++ need
+#   windows  what builds for 64-bit Windows and runs the tests under wine
+#   abi      what compares binary interfaces
 set -euo pipefail
 
 packages=(
@@ -15,38 +17,40 @@ packages=(
     g++ cmake ninja-build pkg-config
     libcli11-dev nlohmann-json3-dev # for the command-line tool
 )
-case "${1:-check}" in
-    build) ;;
-    check)
-        packages+=(
-            clang libclang-rt-dev       # the other compiler, with its sanitizers
-            googletest                  # sources; every build compiles its own
-            clang-format clang-tidy gcovr
-            git python3 util-linux
-            libbenchmark-dev valgrind   # counts instructions
-        )
-        ;;
-    bench)
-        packages+=(libbenchmark-dev python3)
-        ;;
-    libcxx)
-        packages+=(clang libc++-dev libc++abi-dev googletest git python3)
-        ;;
-    abi)
-        packages+=(abigail-tools)
-        ;;
-    windows)
-        packages+=(
-            g++-mingw-w64-x86-64-posix # the variant that has std::thread
-            wine wine64
-            googletest git python3
-        )
-        ;;
-    *)
-        echo "setup: what is '$1'? See the head of this script." >&2
-        exit 2
-        ;;
-esac
+tests=(
+    googletest # sources; every build compiles its own
+    git python3 util-linux
+)
+add_part() {
+    case $1 in
+        build) ;;
+        check)
+            packages+=(
+                "${tests[@]}"
+                clang libclang-rt-dev # the other compiler, with its sanitizers
+                clang-format clang-tidy gcovr
+                libbenchmark-dev valgrind # counts instructions
+            )
+            ;;
+        bench) packages+=(libbenchmark-dev python3) ;;
+        libcxx) packages+=("${tests[@]}" clang libc++-dev libc++abi-dev) ;;
+        windows)
+            packages+=(
+                "${tests[@]}"
+                g++-mingw-w64-x86-64-posix # the variant that has std::thread
+                wine wine64
+            )
+            ;;
+        abi) packages+=(abigail-tools) ;;
+        *)
+            echo "setup: what is '$1'? See the head of this script." >&2
+            exit 2
+            ;;
+    esac
+}
+for part in "${@:-check}"; do
+    add_part "$part"
+done
 
 installed() {
     local status

@@ -30,11 +30,14 @@ check_preset() {
 }
 
 # No "|| ...", "if" or "&&" around a step: bash would then ignore failures inside.
-step "setup" scripts/setup.sh check
+step "setup" scripts/setup.sh check libcxx windows abi
 step "format" scripts/format.sh --check
 step "layers" python3 scripts/check_layers.py
 step "gcc, release" check_preset release
 step "clang, release" check_preset clang
+step "clang with libc++" check_preset libcxx
+step "windows, under wine" scripts/test-windows.sh
 step "gcc, address and undefined behaviour sanitizers" check_preset asan
 step "clang-tidy" scripts/tidy.sh
 step "instructions per byte" scripts/check_instructions.sh
+step "binary interface" scripts/abi.sh

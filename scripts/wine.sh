@@ -11,7 +11,8 @@
 # programs.
 set -euo pipefail
 
-export WINEPREFIX=$1
+WINEPREFIX=$(realpath -m "$1")
+export WINEPREFIX
 shift
 export WINEDEBUG=${WINEDEBUG--all}
 export WINEDLLOVERRIDES="mscoree,mshtml,winemenubuilder.exe=" # nothing to install or to show
@@ -30,7 +31,7 @@ case $1 in
         mkdir -p "$WINEPREFIX"
         "${as_anyone[@]}" wineserver --persistent
         # No pipe for them to hold open: its reader would wait for them.
-        "${as_anyone[@]}" wine wineboot --init </dev/null >/dev/null 2>&1
+        "${as_anyone[@]}" timeout 300 wine wineboot --init </dev/null >/dev/null 2>&1
         ;;
     --stop)
         if [ -d "$WINEPREFIX" ]; then
