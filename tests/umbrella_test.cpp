@@ -26,6 +26,7 @@ TEST(Umbrella, GivesEveryPartOfTheLibrary) {
   EXPECT_STREQ(touchstone2::ParserError(touchstone2::ErrorType::FileNotFound).what(),
                "file not found");
   EXPECT_EQ(touchstone2::Token().type, touchstone2::Token::Type::whitespace);
+  EXPECT_EQ(touchstone2::ReadProgress().line, 0U);
   EXPECT_EQ(touchstone2::tokenize("a b").size(), 2U);
   static_assert(std::is_class_v<touchstone2::PortNameParser6>, "complete");
   static_assert(std::is_class_v<touchstone2::FileCopier>, "complete");

@@ -39,6 +39,7 @@
 #include <touchstone2/reader/message_handler.h>
 #include <touchstone2/reader/parser.h>
 #include <touchstone2/reader/port_count.h>
+#include <touchstone2/reader/read_progress.h>
 #include <touchstone2/reader/token.h>
 #include <touchstone2/version.h>
 #include <touchstone2/writer/v1_writer.h>

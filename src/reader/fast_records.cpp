@@ -38,10 +38,12 @@ const char* skip_line_end(const char* position) {
 
 }  // namespace
 
-FastRecords::FastRecords(const File& file, NetworkParams& params, CellCursor first_cell)
+FastRecords::FastRecords(const File& file, NetworkParams& params, CellCursor first_cell,
+                         ProgressMark progress)
     : file_(file),
       params_(params),
       first_cell_(first_cell),
+      progress_(progress),
       version_1_(file.get_version() == FileVersion::V1),
       one_line_only_(version_1_ && params.rows() <= 2),
       magnitudes_(file.get_complex_format() == ComplexFormat::MA) {}
@@ -74,6 +76,7 @@ FastRecords::Taken FastRecords::take(const char* begin, const char* end) {
     }
     has_record = version_1_;
     position = after;
+    progress_.bytes_done(taken.end);
   }
 }
 

@@ -14,14 +14,16 @@
 #include <vector>
 
 #include "reader/cell_cursor.h"
+#include "reader/progress_mark.h"
 
 namespace touchstone2 {
 
 class FastRecords {
  public:
   // Appends to `params`. `file` gives what the values mean: its complex format, and for version
-  // 1 its parameter type and reference impedance.
-  FastRecords(const File& file, NetworkParams& params, CellCursor first_cell);
+  // 1 its parameter type and reference impedance. `progress` hears of every record.
+  FastRecords(const File& file, NetworkParams& params, CellCursor first_cell,
+              ProgressMark progress);
 
   // Where the records that were taken end, and how many lines they fill.
   struct Taken {
@@ -54,6 +56,7 @@ class FastRecords {
   const File& file_;
   NetworkParams& params_;
   const CellCursor first_cell_;
+  const ProgressMark progress_;
   const bool version_1_;
   const bool one_line_only_;        // records of 1 and 2 ports in version 1
   const bool magnitudes_;           // the first number of a pair must not be negative

@@ -1,6 +1,7 @@
 // The driver of a read and the token helpers that every reader uses. The keyword and data
 // readers are members of Parser too, one concern per file.
 #include <touchstone2/reader/parser.h>
+#include <touchstone2/reader/read_progress.h>
 
 #include "reader/number_text.h"
 #include "reader/scanner.h"
@@ -35,9 +36,17 @@ bool Parser::read_file_private(bool header_only) {
   return file_.is_valid();
 }
 
+void Parser::set_progress(ReadProgress* progress) { progress_ = progress; }
+
 void Parser::open_scanner() {
+  if (progress_ != nullptr) {
+    progress_->bytes.store(0, std::memory_order_relaxed);
+    progress_->line = 0;
+    progress_->line_offset = 0;
+  }
   scanner_ = bytes_ ? std::make_unique<Scanner>(file_, handler_, *bytes_)
                     : std::make_unique<Scanner>(file_, handler_);
+  scanner_->report_progress_to(progress_);
 }
 
 void Parser::read_from_first_token(bool header_only) {

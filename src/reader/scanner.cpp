@@ -49,6 +49,11 @@ TokenPlace Scanner::token_place() const {
           token_.column};
 }
 
+void Scanner::report_progress_to(ReadProgress* progress) {
+  progress_ = ProgressMark(progress, begin_);
+  progress_.line_begins(line_start_, line_);
+}
+
 bool Scanner::next() {
   start_token(Token::Type::whitespace);
   if (!at_end() && is_blank(*position_) && scan_whitespace()) return true;
@@ -98,6 +103,7 @@ void Scanner::resume_at_line(const char* line_start, std::size_t line) {
   position_ = line_start;
   line_start_ = line_start;
   line_ = line;
+  progress_.line_begins(line_start_, line_);
 }
 
 void Scanner::start_token(Token::Type type) {
@@ -111,6 +117,7 @@ void Scanner::start_token(Token::Type type) {
 void Scanner::start_next_line() {
   ++line_;
   line_start_ = position_;
+  progress_.line_begins(line_start_, line_);
 }
 
 // False when the run of blanks is followed by a line end, a comment or the end of the file: it

@@ -11,6 +11,7 @@
 #include <string_view>
 
 #include "reader/mapped_file.h"
+#include "reader/progress_mark.h"
 #include "reader/token_place.h"
 
 namespace touchstone2 {
@@ -25,6 +26,9 @@ class Scanner {
 
   Scanner(const Scanner&) = delete;
   Scanner& operator=(const Scanner&) = delete;
+
+  // Tells `progress` of every line from here on; null for nobody.
+  void report_progress_to(ReadProgress* progress);
 
   // Scans the next token; false for `end_of_file`, which then comes again at every call.
   // Throws InvalidCharacterError and ParserError 2007, 2009, 2012, which carry the token as
@@ -43,6 +47,7 @@ class Scanner {
   // it had been scanned. Not for the end of the bytes.
   void resume_at_line(const char* line_start, std::size_t line);
 
+  const ProgressMark& progress_mark() const { return progress_; }
   const char* end() const { return end_; }
   std::size_t size() const { return static_cast<std::size_t>(end_ - begin_); }
 
@@ -75,6 +80,7 @@ class Scanner {
   const char* token_start_;  // first byte of the current token
   std::size_t line_ = 1;
   Token token_;
+  ProgressMark progress_;
   bool end_of_file_reached_ = false;
 };
 

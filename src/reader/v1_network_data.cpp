@@ -74,7 +74,8 @@ void Parser::read_v1_network_data(std::vector<TokenPlace>& pending, bool header_
       if (header_only) break;
       params = std::make_unique<FullNetworkParams>(
           number_of_ports, file_.get_frequency_multiplier(), file_.get_complex_format());
-      fast_records.emplace(file_, *params, first_v1_cell(number_of_ports));
+      fast_records.emplace(file_, *params, first_v1_cell(number_of_ports),
+                           scanner_->progress_mark());
     } else if (record.size() - 1 != 2 * number_of_ports * number_of_ports) {
       throw IncorrectNumberOfNetworkValuesError(record.size() - 1,
                                                 number_of_ports * number_of_ports,

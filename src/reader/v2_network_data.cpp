@@ -55,7 +55,7 @@ void Parser::read_network_data_keyword() {
   }
   const CellCursor first_cell(cell_order(file_), file_.get_number_of_ports());
 
-  FastRecords fast_records(file_, *params, first_cell);
+  FastRecords fast_records(file_, *params, first_cell, scanner_->progress_mark());
   for (skip_blank_lines(); current_token().type != Token::Type::keyword; skip_blank_lines()) {
     const bool may_be_regular =
         current_token().type == Token::Type::number && current_token().column == 1;

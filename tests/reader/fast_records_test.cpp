@@ -218,13 +218,13 @@ TEST(FastRecords, TakesTheRegularRecordsOfARun) {
   const CellCursor first_cell(CellCursor::Order::row_by_row, 1);
   const char* const begin = text.data();
   const char* const end = begin + text.size();
-  const auto taken_1 = FastRecords(version_1.file, params_1, first_cell).take(begin, end);
+  const auto taken_1 = FastRecords(version_1.file, params_1, first_cell, {}).take(begin, end);
   EXPECT_EQ(taken_1.lines, 99U);  // the last one may go on
   EXPECT_EQ(params_1.freq_points(), 99U);
   EXPECT_EQ(taken_1.end, begin + text.find("100 0.5"));
 
   FullNetworkParams params_2(1, 1e6, ComplexFormat::RI);
-  const auto taken_2 = FastRecords(version_2.file, params_2, first_cell).take(begin, end);
+  const auto taken_2 = FastRecords(version_2.file, params_2, first_cell, {}).take(begin, end);
   EXPECT_EQ(taken_2.lines, 100U);
   EXPECT_EQ(params_2.freq_points(), 100U);
   EXPECT_EQ(taken_2.end, begin + irregular);

@@ -23,6 +23,7 @@ namespace touchstone2 {
 
 class CellCursor;
 class FastRecords;
+struct ReadProgress;
 class Scanner;
 struct TokenPlace;
 
@@ -58,6 +59,10 @@ class Parser {
   /// version 1 file the options line and as much of the data as tells the port count. The
   /// File is then valid, but has no data.
   TOUCHSTONE2_EXPORT bool read_file_header();
+
+  /// Lets the reads that follow keep `progress` up to date, which must outlive them; null ends
+  /// that. It is the only object of a read that another thread may look at meanwhile.
+  TOUCHSTONE2_EXPORT void set_progress(ReadProgress* progress);
 
  private:
   // The driver, parser.cpp.
@@ -143,6 +148,7 @@ class Parser {
   MessageHandler& handler_;
   std::optional<std::string_view> bytes_;  // none: map the file that file_ names
   std::unique_ptr<Scanner> scanner_;       // null outside a read
+  ReadProgress* progress_ = nullptr;       // the caller's; null for none
 
   // Off in tests that hold the fast path through regular records against the ordinary one.
   friend struct FastPathSwitch;
