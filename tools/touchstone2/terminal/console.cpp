@@ -1,6 +1,8 @@
 // Standard streams through C stdio: its errno tells a closed pipe from a full disk, which
 // iostreams do not. Together with path_text.cpp and the files that end in _posix and _win32 this
 // is what knows one platform from another.
+//
+// One lock for both streams keeps the status line apart from all other text.
 
 #include "terminal/console.h"
 
@@ -9,6 +11,7 @@
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
+#include <mutex>
 #include <stdexcept>
 #include <system_error>
 
@@ -24,6 +27,17 @@
 namespace tool {
 
 namespace {
+
+std::mutex writing;
+bool status_is_shown = false;
+
+void print_error(std::string_view text) { std::fwrite(text.data(), 1, text.size(), stderr); }
+
+// The caller holds the lock.
+void erase_status() {
+  if (status_is_shown) print_error("\r\x1b[K");
+  status_is_shown = false;
+}
 
 std::string reason_of(int error_number) { return std::generic_category().message(error_number); }
 
@@ -96,6 +110,9 @@ std::vector<std::string> command_line_arguments(int argc, char** argv) {
 #endif
 
 void write_output(std::string_view text) {
+  if (text.empty()) return;
+  const std::lock_guard lock(writing);
+  erase_status();
   errno = 0;
   const bool written = std::fwrite(text.data(), 1, text.size(), stdout) == text.size();
   if (written && std::fflush(stdout) == 0) return;
@@ -103,10 +120,24 @@ void write_output(std::string_view text) {
   throw std::runtime_error("cannot write to standard output: " + reason_of(errno));
 }
 
-void complain(std::string_view text) {
-  std::string line = "touchstone2: ";
-  line.append(text).append("\n");
-  std::fwrite(line.data(), 1, line.size(), stderr);
+void write_error(std::string_view text) {
+  if (text.empty()) return;
+  const std::lock_guard lock(writing);
+  erase_status();
+  print_error(text);
+}
+
+std::string complaint(std::string_view text) {
+  return std::string("touchstone2: ").append(text).append("\n");
+}
+
+void complain(std::string_view text) { write_error(complaint(text)); }
+
+void show_status(std::string_view text) {
+  const std::lock_guard lock(writing);
+  erase_status();
+  print_error(text);
+  status_is_shown = !text.empty();
 }
 
 void note(const std::string& text) { complain("note: " + text); }

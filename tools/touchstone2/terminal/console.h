@@ -1,4 +1,4 @@
-/// The process's own streams and exit codes.
+/// The process's own streams and exit codes. Any thread may write.
 #ifndef TOUCHSTONE2_TOOL_CONSOLE_H
 #define TOUCHSTONE2_TOOL_CONSOLE_H
 
@@ -34,16 +34,27 @@ void prepare_streams();
 /// The arguments behind the program's name; UTF-8 on Windows, the bytes as given elsewhere.
 std::vector<std::string> command_line_arguments(int argc, char** argv);
 
-/// Writes to standard output and flushes it, so that readers get every record at once and
-/// the order with standard error is kept.
+/// Writes to standard output, unless there is nothing to write, and flushes it, so that readers get
+/// every record at once and the order with standard error is kept.
 /// @throws ClosedPipe, or std::runtime_error for any other failure
 void write_output(std::string_view text);
 
-/// Writes "touchstone2: TEXT" and a line end to standard error; a failure is ignored.
+/// Writes to standard error as the text stands; a failure is ignored.
+void write_error(std::string_view text);
+
+/// "touchstone2: TEXT" and a line end.
+std::string complaint(std::string_view text);
+
+/// Writes the complaint to standard error.
 void complain(std::string_view text);
 
 /// complain about something that is worth knowing and no failure: "touchstone2: note: TEXT".
 void note(const std::string& text);
+
+/// Shows the text, which fits on one line, on the last line of the terminal that standard error
+/// is, in place of the one that was shown before. Whatever is written next takes it away first;
+/// an empty text does nothing else. Only for a display that can erase.
+void show_status(std::string_view text);
 
 /// Everything up to the end of standard input, byte for byte.
 /// @throws std::runtime_error
