@@ -45,7 +45,7 @@ TOOL = "tools/touchstone2/"
 TOOL_MAY_INCLUDE = {
     "text": set(),
     "terminal": set(),
-    "diagnostics": {"terminal", "text"},
+    "diagnostics": {"inputs", "terminal", "text"},
     "json": {"diagnostics", "text"},
     "inputs": {"terminal", "text"},
     "outputs": {"diagnostics", "inputs", "terminal", "text"},

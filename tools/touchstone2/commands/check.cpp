@@ -106,8 +106,9 @@ Verdict check_as_json(const std::string& path, const CheckOptions& options) {
 
 Verdict check_as_text(const std::string& path, const CheckOptions& options) {
   SourceFile source(path);
-  PrintingHandler handler;
+  PrintingHandler handler(source, write_error);
   const Verdict verdict = read_input(source, handler, options);
+  handler.finish();
   if (!options.quiet) write_output(verdict_line(source.name(), verdict));
   return verdict;
 }

@@ -16,6 +16,7 @@
 #include "inputs/source_file.h"
 #include "json/json_report.h"
 #include "terminal/console.h"
+#include "terminal/display.h"
 #include "text/value_text.h"
 
 namespace tool {
@@ -124,8 +125,7 @@ int info_as_json(SourceFile& source) {
 }
 
 int info_as_text(SourceFile& source) {
-  PrintingHandler handler;
-  if (!source.read(handler, Extent::whole)) return kRefused;
+  if (!read_and_print(source, Extent::whole)) return kRefused;
   write_output(page_about(source.file()));
   return kAllValid;
 }
@@ -144,6 +144,7 @@ void add_info_command(CLI::App& app, int& exit_code) {
   command->add_option("PATH", options->path, "A file, or - for standard input")->required();
   command->add_flag("--json", options->json,
                     "Print JSON instead, and no diagnostics to standard error");
+  add_plain_option(*command);
   command->callback([options, &exit_code] { exit_code = info(*options); });
 }
 

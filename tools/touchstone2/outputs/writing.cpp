@@ -15,6 +15,7 @@
 #include "outputs/output_file.h"
 #include "outputs/rendering.h"
 #include "terminal/console.h"
+#include "terminal/display.h"
 #include "text/value_text.h"
 
 namespace tool {
@@ -78,6 +79,7 @@ CLI::Option* add_write_options(CLI::App& command, WriteOptions& options) {
       .add_option("--precision", options.precision,
                   "Significant digits: auto, or a number from 1 to 17")
       ->type_name("DIGITS");
+  add_plain_option(command);
   return path;
 }
 
@@ -86,10 +88,7 @@ void check_write_options(const WriteOptions& options) {
   check_output(options.path, existing_of(options));
 }
 
-bool read_for_writing(SourceFile& source) {
-  PrintingHandler handler;
-  return source.read(handler, Extent::whole);
-}
+bool read_for_writing(SourceFile& source) { return read_and_print(source, Extent::whole); }
 
 OwnedFile copy_of_ports(const touchstone2::File& source,
                         const std::vector<std::pair<std::size_t, std::string>>& ports) {

@@ -110,6 +110,16 @@ std::string count_text(std::size_t count, std::string_view one, std::string_view
   return text.append(count == 1 ? one : many);
 }
 
+std::string grouped(std::size_t number) {
+  constexpr std::size_t kGroup = 3;
+  std::string text = std::to_string(number);
+  for (std::size_t end = text.size(); end > kGroup;) {
+    end -= kGroup;
+    text.insert(end, 1, ',');
+  }
+  return text;
+}
+
 std::string frequency_text(double unscaled, FrequencyScaleFactor unit) {
   std::array<char, 64> buffer;
   Decimal decimal = parse_scientific(

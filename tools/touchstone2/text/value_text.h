@@ -27,6 +27,9 @@ std::string number_text(double value);
 /// "1 frequency", "3 frequencies": `many` is "frequencies".
 std::string count_text(std::size_t count, std::string_view one, std::string_view many);
 
+/// "1,234,567".
+std::string grouped(std::size_t number);
+
 /// A frequency in engineering units, as "2.45 GHz", to at most 12 digits. The unit is applied
 /// to the decimal digits, so 4.1 GHz never turns into 4.0999999999999995 GHz.
 /// @param unscaled  the frequency in the file's unit
