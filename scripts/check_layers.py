@@ -44,7 +44,7 @@ CALLERS = {"tools", "examples"}
 TOOL = "tools/touchstone2/"
 TOOL_MAY_INCLUDE = {
     "text": set(),
-    "terminal": set(),
+    "terminal": {"text"},
     "diagnostics": {"inputs", "terminal", "text"},
     "json": {"diagnostics", "text"},
     "inputs": {"terminal", "text"},

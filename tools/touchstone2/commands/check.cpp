@@ -1,21 +1,21 @@
-// Reads every input in turn. One that can not be read at all (no memory for it, say) is told
-// of and does not keep the others from being checked.
+// The command line of check. A file that can not be read at all (no memory for it, say) is told of
+// and does not keep the others from being checked.
 
 #include "commands/check.h"
 
-#include <exception>
+#include <algorithm>
 #include <memory>
-#include <new>
+#include <stdexcept>
+#include <thread>
 
 #include <CLI/CLI.hpp>
-#include <nlohmann/json.hpp>
 
+#include "commands/check_formats.h"
+#include "commands/check_run.h"
 #include "diagnostics/report.h"
 #include "inputs/input_files.h"
-#include "inputs/source_file.h"
-#include "json/json_report.h"
 #include "terminal/console.h"
-#include "text/value_text.h"
+#include "terminal/display.h"
 
 namespace tool {
 
@@ -33,6 +33,20 @@ links to folders are followed only when they are a PATH themselves.
 JSON: one object a line with path, valid and diagnostics (severity, code, line,
 column, token, message). Bytes that are not UTF-8 become U+FFFD.
 
+FORMAT: "text" is what is said above. "gcc" prints the diagnostics to standard output as
+compilers do, "FILE:LINE:COLUMN: error: SENTENCE [E2311]", for the lists of editors.
+"json" is --json. "sarif" is one SARIF 2.1.0 document for all files; its columns count
+characters, all others count bytes.
+
+At a terminal every diagnostic comes with its line of the file, and of warnings with one
+code in one file only the first 5; a long run shows how far it is. Anywhere else, and
+with --plain, each diagnostic is one line. COLUMNS is the width of the terminal if it
+does not tell. NO_COLOR=1 and TERM=dumb take the colours away.
+
+As many files are read at the same time as the machine has cores, or N with --jobs. What
+is printed is the same for every N, in the order of the files. A file that another
+program changes while it is read is refused.
+
 Exit code: 0 all files are valid; 1 a file was refused; 2 something could not be
 checked: wrong usage, a folder that cannot be read or holds no such files, no
 memory, output that cannot be written; 141 the reader of standard output has gone
@@ -42,100 +56,48 @@ Examples:
   touchstone2 check amplifier.s2p
   touchstone2 check --werror measurements/
   touchstone2 check --json measurements/ > report.jsonl
+  touchstone2 check --format sarif measurements/ > report.sarif
   unzip -p archive.zip filter.s2p | touchstone2 check -)";
 
-struct Verdict {
-  bool valid = false;
-  bool done = true;  // false: the attempt to read has failed
-  Counts counts;
-};
-
-struct Total {
-  std::size_t files = 0;
-  std::size_t refused = 0;
-  std::size_t warnings = 0;
-  bool done = true;
-};
-
-// An attempt that fails is complained about here.
-Verdict read_input(SourceFile& source, CountingHandler& handler, const CheckOptions& options) {
-  Verdict verdict;
-  try {
-    verdict.valid = source.read(handler, options.header_only ? Extent::header : Extent::whole);
-  } catch (const std::bad_alloc&) {
-    complain(source.name() + ": out of memory");
-    verdict.done = false;
-  } catch (const std::exception& failure) {
-    complain(source.name() + ": " + failure.what());
-    verdict.done = false;
-  }
-  verdict.counts = handler.counts();
-  if (options.werror && verdict.counts.warnings > 0) verdict.valid = false;
-  return verdict;
+CheckFormat format_of(const CheckOptions& options) {
+  if (options.json || options.format == "json") return CheckFormat::json;
+  if (options.format == "text") return CheckFormat::text;
+  if (options.format == "gcc") return CheckFormat::gcc;
+  if (options.format == "sarif") return CheckFormat::sarif;
+  throw std::runtime_error("--format is text, gcc, json or sarif");
 }
 
-std::string verdict_line(const std::string& name, const Verdict& verdict) {
-  if (!verdict.done) return name + ": not checked\n";
-  std::string line = name + (verdict.valid ? ": valid" : ": refused");
-  if (verdict.counts.errors > 0) {
-    line += ", " + count_text(verdict.counts.errors, "error", "errors");
-  }
-  if (verdict.counts.warnings > 0) {
-    line += ", " + count_text(verdict.counts.warnings, "warning", "warnings");
-  }
-  return line + "\n";
+std::size_t jobs_of(const CheckOptions& options) {
+  return options.jobs != 0 ? options.jobs
+                           : std::max<std::size_t>(std::thread::hardware_concurrency(), 1);
 }
 
-std::string total_line(const Total& total) {
-  std::string line = count_text(total.files, "file", "files") + ": ";
-  line += std::to_string(total.files - total.refused) + " valid, ";
-  line += std::to_string(total.refused) + " refused";
-  if (total.warnings > 0) line += ", " + count_text(total.warnings, "warning", "warnings");
-  return line + "\n";
-}
-
-Verdict check_as_json(const std::string& path, const CheckOptions& options) {
-  SourceFile source(path);
-  CollectingHandler handler;
-  const Verdict verdict = read_input(source, handler, options);
-  if (verdict.done) {
-    write_output(json_line(verdict_to_json(source.name(), verdict.valid, handler.diagnostics())));
-  }
-  return verdict;
-}
-
-Verdict check_as_text(const std::string& path, const CheckOptions& options) {
-  SourceFile source(path);
-  PrintingHandler handler(source, write_error);
-  const Verdict verdict = read_input(source, handler, options);
-  handler.finish();
-  if (!options.quiet) write_output(verdict_line(source.name(), verdict));
-  return verdict;
-}
-
-void add(Total& total, const Verdict& verdict) {
-  if (!verdict.done) {
-    total.done = false;
-    return;
-  }
-  ++total.files;
-  total.warnings += verdict.counts.warnings;
-  if (!verdict.valid) ++total.refused;
+int exit_code_of(const Total& total) {
+  if (!total.done) return kNotDone;
+  return total.refused > 0 ? kRefused : kAllValid;
 }
 
 }  // namespace
 
 int check(const CheckOptions& options) {
+  const CheckFormat format = format_of(options);
+  if (options.quiet && format != CheckFormat::text) {
+    throw std::runtime_error("--quiet is for the format text");
+  }
   const InputList inputs = expand_paths(options.paths);
   for (const std::string& problem : inputs.problems) complain(problem);
-  Total total;
-  total.done = inputs.problems.empty();
-  for (const std::string& path : inputs.paths) {
-    add(total, options.json ? check_as_json(path, options) : check_as_text(path, options));
-  }
-  if (total.files > 0 && !options.quiet && !options.json) write_output(total_line(total));
-  if (!total.done) return kNotDone;
-  return total.refused > 0 ? kRefused : kAllValid;
+  const std::unique_ptr<CheckReport> report = make_check_report(format, options.quiet);
+  const CheckRunOptions run_options{
+      jobs_of(options), options.header_only ? Extent::header : Extent::whole, options.werror};
+
+  write_output(report->begin());
+  Total total = CheckRun(inputs.paths, *report, run_options).run();
+  if (!inputs.problems.empty()) total.done = false;
+  total.problems.insert(total.problems.begin(), inputs.problems.begin(), inputs.problems.end());
+  const int exit_code = exit_code_of(total);
+  write_output(report->end(total, exit_code));
+  if (format == CheckFormat::text) write_error(explain_hint(total.error_code));
+  return exit_code;
 }
 
 void add_check_command(CLI::App& app, int& exit_code) {
@@ -150,10 +112,19 @@ void add_check_command(CLI::App& app, int& exit_code) {
   command->add_flag("--header-only", options->header_only,
                     "Read only up to the number of ports, which leaves the data unchecked");
   command->add_flag("--werror", options->werror, "Count a file with warnings as refused");
+  CLI::Option* json =
+      command
+          ->add_flag("--json", options->json,
+                     "Print JSON Lines instead, and no diagnostics to standard error")
+          ->excludes(quiet);
   command
-      ->add_flag("--json", options->json,
-                 "Print JSON Lines instead, and no diagnostics to standard error")
-      ->excludes(quiet);
+      ->add_option("--format", options->format, "The form of the output: text, gcc, json or sarif")
+      ->type_name("FORMAT")
+      ->excludes(json);
+  command->add_option("-j,--jobs", options->jobs, "Files to read at the same time")
+      ->type_name("N")
+      ->check(CLI::Range(1, 1024));
+  add_plain_option(*command);
   command->callback([options, &exit_code] { exit_code = check(*options); });
 }
 

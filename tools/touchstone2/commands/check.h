@@ -2,6 +2,7 @@
 #ifndef TOUCHSTONE2_TOOL_CHECK_H
 #define TOUCHSTONE2_TOOL_CHECK_H
 
+#include <cstddef>
 #include <string>
 #include <vector>
 
@@ -17,6 +18,8 @@ struct CheckOptions {
   bool header_only = false;
   bool werror = false;
   bool json = false;
+  std::string format = "text";
+  std::size_t jobs = 0;  ///< 0: one for each core
 };
 
 /// @return the exit code
