@@ -6,6 +6,10 @@
 //     no-links      the file system has no hard links
 //     no-rename     renaming fails
 //     appear        while the output is being written, somebody else creates $FAULT_FILE
+//     cut           as soon as $FAULT_FILE is mapped to memory, somebody cuts it to no bytes
+//     cut-no-memory the same, and nothing can be mapped afterwards
+//     unreadable    no page of $FAULT_FILE can be read once it is mapped
+//     change        as soon as $FAULT_FILE is mapped, somebody adds a line to it
 //     TERM, INT, HUP, QUIT, KILL   the process gets this signal while the output is not complete
 #include <cerrno>
 #include <csignal>
@@ -15,6 +19,8 @@
 
 #include <dlfcn.h>
 #include <fcntl.h>
+#include <sys/mman.h>
+#include <sys/stat.h>
 #include <sys/types.h>
 #include <unistd.h>
 
@@ -41,7 +47,42 @@ void create(const char* path) {
   ::close(descriptor);
 }
 
+bool is_fault_file(int descriptor) {
+  const char* const name = std::getenv("FAULT_FILE");
+  struct stat mapped {};
+  struct stat named {};
+  return name != nullptr && descriptor >= 0 && ::fstat(descriptor, &mapped) == 0 &&
+         ::stat(name, &named) == 0 && mapped.st_ino == named.st_ino &&
+         mapped.st_dev == named.st_dev;
+}
+
+void add_line(const char* path) {
+  const int descriptor = ::open(path, O_WRONLY | O_APPEND);
+  next<ssize_t(int, const void*, std::size_t)>("write")(descriptor, "! more\n", 7);
+  ::close(descriptor);
+}
+
 }  // namespace
+
+extern "C" void* mmap(void* address, std::size_t size, int protection, int flags, int descriptor,
+                      off_t offset) noexcept {
+  using Function = void*(void*, std::size_t, int, int, int, off_t);
+  static bool is_cut = false;
+  if (is_cut && fault_is("cut-no-memory")) {
+    errno = ENOMEM;
+    return MAP_FAILED;
+  }
+  if (fault_is("unreadable") && is_fault_file(descriptor)) {
+    descriptor = ::memfd_create("empty", 0);
+  }
+  void* const base = next<Function>("mmap")(address, size, protection, flags, descriptor, offset);
+  const bool cuts = fault_is("cut") || fault_is("cut-no-memory");
+  if (!cuts && !fault_is("change")) return base;
+  if (!is_fault_file(descriptor)) return base;
+  if (cuts) is_cut = ::truncate(std::getenv("FAULT_FILE"), 0) == 0;
+  if (fault_is("change")) add_line(std::getenv("FAULT_FILE"));
+  return base;
+}
 
 extern "C" ssize_t write(int descriptor, const void* bytes, std::size_t size) {
   static bool half_written = false;

@@ -60,10 +60,9 @@ class GccReport : public CheckReport {
  public:
   Verdict tell(const SourceFile& source, const Read& read, const Write& write) const override {
     ForwardingHandler handler([&](const Diagnostic& diagnostic) {
-      write(Stream::output, visible(place_text(source.name(), diagnostic) + " " +
-                                    severity_text(diagnostic.severity) + ": " + diagnostic.message +
-                                    " [" + code_text(diagnostic) + "]") +
-                                "\n");
+      write(Stream::output, visible(place_text(source.name(), diagnostic)) + " " +
+                                severity_text(diagnostic.severity) + ": " +
+                                message_line(diagnostic) + " [" + code_text(diagnostic) + "]\n");
     });
     return read(handler);
   }
@@ -93,9 +92,12 @@ std::size_t character_column(const SourceFile& source, const Diagnostic& diagnos
   if (diagnostic.column <= 1) return diagnostic.column;
   const auto line = source.find_line(diagnostic.line, diagnostic.column);
   if (!line) return diagnostic.column;
-  const std::size_t before = diagnostic.column - line->first_column;
-  const std::size_t bytes = before < line->bytes.size() ? before : line->bytes.size();
-  return diagnostic.column - bytes + to_glyphs(line->bytes.substr(0, bytes)).size();
+  const std::size_t begin = diagnostic.column - line->first_column;
+  std::size_t characters = begin < line->bytes.size() ? 0 : 1;  // the line end counts as one
+  for (const Glyph& glyph : to_glyphs(line->bytes)) {
+    if (glyph.begin <= begin) ++characters;
+  }
+  return line->first_column - 1 + characters;
 }
 
 class SarifReport : public CheckReport {
@@ -114,7 +116,7 @@ class SarifReport : public CheckReport {
     return verdict;
   }
 
-  std::string separator() const override { return ",\n"; }
+  std::string separator() const override { return ","; }
 
   std::string end(const Total& total, int exit_code) const override {
     return sarif_end({total.rules, total.problems, total.done, exit_code});

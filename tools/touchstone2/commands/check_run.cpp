@@ -118,7 +118,7 @@ Verdict CheckRun::read(SourceFile& source, CountingHandler& handler,
     verdict.valid = source.read(handler, options_.extent);
   } catch (const UnsteadyFile& unsteady) {
     complain_of(unsteady.what());
-    verdict.failure = unsteady.what();
+    verdict.failure = unsteady.reason();
   } catch (const std::bad_alloc&) {
     complain_of(source.name() + ": out of memory");
     verdict.done = false;

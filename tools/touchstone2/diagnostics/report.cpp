@@ -2,6 +2,9 @@
 
 #include "diagnostics/report.h"
 
+#include <algorithm>
+#include <utility>
+
 #include "diagnostics/source_excerpt.h"
 #include "terminal/console.h"
 #include "text/cells.h"
@@ -33,7 +36,7 @@ std::string rich_text(const SourceFile& source, const Diagnostic& diagnostic) {
       styled(display, Style::bold, visible(place_text(source.name(), diagnostic))) + " " +
       styled(display, style,
              severity_text(diagnostic.severity) + " " + code_text(diagnostic) + ":") +
-      " " + styled(display, Style::bold, visible(diagnostic.message)) + "\n";
+      " " + styled(display, Style::bold, message_line(diagnostic)) + "\n";
   if (const auto line = source.find_line(diagnostic.line, diagnostic.column)) {
     text += source_excerpt(*line, diagnostic, display);
   }
@@ -56,6 +59,15 @@ std::string place_text(const std::string& name, const Diagnostic& diagnostic) {
   text += std::to_string(diagnostic.line) + ":";
   if (diagnostic.column != 0) text += std::to_string(diagnostic.column) + ":";
   return text;
+}
+
+std::string message_line(const Diagnostic& diagnostic) {
+  std::string line = diagnostic.message;
+  for (std::size_t end = line.find('\n'); end != std::string::npos; end = line.find('\n')) {
+    const std::size_t next = std::min(line.find_first_not_of(" \n", end), line.size());
+    line.replace(end, next - end, " ");
+  }
+  return visible(line);
 }
 
 void CountingHandler::report_error(const touchstone2::File& file,

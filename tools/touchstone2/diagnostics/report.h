@@ -44,6 +44,9 @@ std::string severity_text(Severity severity);
 /// "amp.s2p:12:5:", or less when there is no column or no line.
 std::string place_text(const std::string& name, const Diagnostic& diagnostic);
 
+/// The message on one line of a terminal; some of the library's have more than one.
+std::string message_line(const Diagnostic& diagnostic);
+
 /// Counts, and leaves what else is done to a derived class.
 class CountingHandler : public touchstone2::MessageHandler {
  public:

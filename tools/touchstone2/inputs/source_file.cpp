@@ -86,8 +86,8 @@ bool SourceFile::read_named(touchstone2::MessageHandler& handler, Extent extent)
 }
 
 void SourceFile::refuse_unsteady() const {
-  throw UnsteadyFile(name() + (watched_->has_changed() ? ": the file was changed while it was read"
-                                                       : ": a part of the file cannot be read"));
+  throw UnsteadyFile(name(), watched_->has_changed() ? "the file was changed while it was read"
+                                                     : "a part of the file cannot be read");
 }
 
 std::unique_ptr<std::istream> SourceFile::open_text() const {

@@ -22,7 +22,13 @@ enum class Extent { whole, header };
 /// Thrown when a file did not stay what it was while it was read; what() names it.
 class UnsteadyFile : public Refusal {
  public:
-  using Refusal::Refusal;
+  UnsteadyFile(const std::string& name, const std::string& reason)
+      : Refusal(name + ": " + reason), reason_(reason) {}
+
+  const std::string& reason() const { return reason_; }
+
+ private:
+  std::string reason_;
 };
 
 /// Some bytes of a line around a column, without the end of the line.

@@ -82,8 +82,7 @@ std::string dump(const Json& json) {
 
 std::string sarif_begin() {
   return R"({"$schema":"https://json.schemastore.org/sarif-2.1.0.json","version":"2.1.0","runs":[{
-"columnKind":"unicodeCodePoints","results":[
-)";
+"columnKind":"unicodeCodePoints","results":[)";
 }
 
 std::string sarif_result(const std::string& path, const Diagnostic& diagnostic,
@@ -94,7 +93,7 @@ std::string sarif_result(const std::string& path, const Diagnostic& diagnostic,
   result["message"] = text_object(diagnostic.message);
   result["locations"] = Json::array();
   result["locations"].push_back(location_to_json(path, diagnostic.line, column));
-  return dump(result);
+  return "\n" + dump(result);
 }
 
 std::string sarif_end(const SarifRun& run) {

@@ -1,7 +1,7 @@
 /// The Static Analysis Results Interchange Format (SARIF) 2.1.0, which code review systems read:
 /// one document for a run, in pieces, so that no more than a result is held at a time.
 ///
-///     sarif_begin(), result, ",\n", result, ..., sarif_end(...)
+///     sarif_begin(), result, ",", result, ..., sarif_end(...)
 #ifndef TOUCHSTONE2_TOOL_SARIF_REPORT_H
 #define TOUCHSTONE2_TOOL_SARIF_REPORT_H
 
@@ -16,7 +16,7 @@ namespace tool {
 
 std::string sarif_begin();
 
-/// One result.
+/// One result, on a line of its own.
 /// @param path    bytes, as a path is; the document holds a URI reference
 /// @param column  of the diagnostic, counted in characters and not in bytes
 std::string sarif_result(const std::string& path, const Diagnostic& diagnostic, std::size_t column);

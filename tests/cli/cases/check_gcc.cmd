@@ -1,0 +1,1 @@
+touchstone2 check --format gcc examples/broken missing.s2p

@@ -1,0 +1,2 @@
+mkdir empty
+touchstone2 check --format sarif empty examples/good/amplifier.s2p

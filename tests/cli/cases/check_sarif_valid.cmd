@@ -1,0 +1,1 @@
+touchstone2 check --format sarif examples/good/amplifier.s2p
