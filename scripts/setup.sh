@@ -20,6 +20,7 @@ packages=(
 tests=(
     googletest # sources; every build compiles its own
     git python3 util-linux
+    python3-jsonschema # validates the tool's JSON
 )
 add_part() {
     case $1 in

@@ -30,8 +30,9 @@ A PATH may be a file with any name, a folder, or "-" for standard input (write
 *.ts and *.sNp (s, digits, p; in upper or lower case) are read, sorted by path;
 links to folders are followed only when they are a PATH themselves.
 
-JSON: one object a line with path, valid and diagnostics (severity, code, line,
-column, token, message). Bytes that are not UTF-8 become U+FFFD.
+JSON: one object a line with schema_version, path, valid and diagnostics (severity,
+code, line, column, token, message); failure says why a file could not be read to its
+end. Bytes that are not UTF-8 become U+FFFD.
 
 FORMAT: "text" is what is said above. "gcc" prints the diagnostics to standard output as
 compilers do, "FILE:LINE:COLUMN: error: SENTENCE [E2311]", for the lists of editors.

@@ -59,6 +59,7 @@ Json mixed_mode_to_json(const File& file) {
 Json verdict_to_json(const std::string& path, bool valid,
                      const std::vector<Diagnostic>& diagnostics) {
   Json object = Json::object();
+  object["schema_version"] = kSchemaVersion;
   object["path"] = path;
   object["valid"] = valid;
   object["diagnostics"] = Json::array();

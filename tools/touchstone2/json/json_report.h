@@ -20,7 +20,11 @@ namespace tool {
 /// Members in the order in which they are added.
 using Json = nlohmann::ordered_json;
 
-/// {"path": ..., "valid": ..., "diagnostics": [...]}. A diagnostic has severity ("error" or
+/// Of all JSON that the tool prints; docs/schemas has the schema. A new member does not change it,
+/// one that goes or gets another meaning does.
+constexpr int kSchemaVersion = 1;
+
+/// {"schema_version": ..., "path": ..., "valid": ..., "diagnostics": [...]}. A diagnostic has severity ("error" or
 /// "warning"), code, line, column (null when there is no position), token and message.
 Json verdict_to_json(const std::string& path, bool valid,
                      const std::vector<Diagnostic>& diagnostics);
