@@ -24,8 +24,9 @@ using Json = nlohmann::ordered_json;
 /// one that goes or gets another meaning does.
 constexpr int kSchemaVersion = 1;
 
-/// {"schema_version": ..., "path": ..., "valid": ..., "diagnostics": [...]}. A diagnostic has severity ("error" or
-/// "warning"), code, line, column (null when there is no position), token and message.
+/// {"schema_version": ..., "path": ..., "valid": ..., "diagnostics": [...]}. A diagnostic has
+/// severity ("error" or "warning"), code, line, column (null when there is no position), token and
+/// message.
 Json verdict_to_json(const std::string& path, bool valid,
                      const std::vector<Diagnostic>& diagnostics);
 

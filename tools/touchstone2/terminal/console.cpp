@@ -22,6 +22,8 @@
 #define NOMINMAX
 #endif
 #include <windows.h>  // with the shell's part
+#else
+#include <unistd.h>
 #endif
 
 namespace tool {
@@ -29,15 +31,23 @@ namespace tool {
 namespace {
 
 std::mutex writing;
-bool status_is_shown = false;
+std::string status;  // what is shown; empty for nothing
+bool output_is_terminal = false;
 
 void print_error(std::string_view text) { std::fwrite(text.data(), 1, text.size(), stderr); }
 
-// The caller holds the lock.
-void erase_status() {
-  if (status_is_shown) print_error("\r\x1b[K");
-  status_is_shown = false;
-}
+// Takes the status line away while other text is written, and puts it back below.
+class StatusPause {
+ public:
+  StatusPause() {
+    if (!status.empty()) print_error(kErase);
+  }
+  StatusPause(const StatusPause&) = delete;
+  StatusPause& operator=(const StatusPause&) = delete;
+  ~StatusPause() { print_error(status); }
+
+  static constexpr std::string_view kErase = "\r\x1b[K";
+};
 
 std::string reason_of(int error_number) { return std::generic_category().message(error_number); }
 
@@ -50,6 +60,15 @@ bool pipe_is_closed() {
 #else
   return errno == EPIPE;
 #endif
+}
+
+void print_output(std::string_view text) {
+  errno = 0;
+  const bool written = std::fwrite(text.data(), 1, text.size(), stdout) == text.size();
+  if (written && std::fflush(stdout) == 0) return;
+  const int error_number = errno;
+  if (pipe_is_closed()) throw ClosedPipe{};
+  throw std::runtime_error("cannot write to standard output: " + reason_of(error_number));
 }
 
 #ifdef _WIN32
@@ -87,7 +106,10 @@ void prepare_streams() {
   _setmode(_fileno(stdin), _O_BINARY);
   _setmode(_fileno(stdout), _O_BINARY);
   _setmode(_fileno(stderr), _O_BINARY);
+  output_is_terminal = _isatty(_fileno(stdout)) != 0;
   prepare_console();
+#else
+  output_is_terminal = ::isatty(STDOUT_FILENO) != 0;
 #endif
 }
 
@@ -112,18 +134,15 @@ std::vector<std::string> command_line_arguments(int argc, char** argv) {
 void write_output(std::string_view text) {
   if (text.empty()) return;
   const std::lock_guard lock(writing);
-  erase_status();
-  errno = 0;
-  const bool written = std::fwrite(text.data(), 1, text.size(), stdout) == text.size();
-  if (written && std::fflush(stdout) == 0) return;
-  if (pipe_is_closed()) throw ClosedPipe{};
-  throw std::runtime_error("cannot write to standard output: " + reason_of(errno));
+  if (!output_is_terminal) return print_output(text);
+  const StatusPause pause;
+  print_output(text);
 }
 
 void write_error(std::string_view text) {
   if (text.empty()) return;
   const std::lock_guard lock(writing);
-  erase_status();
+  const StatusPause pause;
   print_error(text);
 }
 
@@ -135,9 +154,9 @@ void complain(std::string_view text) { write_error(complaint(text)); }
 
 void show_status(std::string_view text) {
   const std::lock_guard lock(writing);
-  erase_status();
-  print_error(text);
-  status_is_shown = !text.empty();
+  // In one piece, so that the line does not flicker.
+  print_error(std::string(status.empty() ? "" : StatusPause::kErase).append(text));
+  status = text;
 }
 
 void note(const std::string& text) { complain("note: " + text); }

@@ -52,8 +52,8 @@ void complain(std::string_view text);
 void note(const std::string& text);
 
 /// Shows the text, which fits on one line, on the last line of the terminal that standard error
-/// is, in place of the one that was shown before. Whatever is written next takes it away first;
-/// an empty text does nothing else. Only for a display that can erase.
+/// is, in place of the one that was shown before; an empty text takes that away. Whatever else is
+/// written stands above it. Only for a display that can erase.
 void show_status(std::string_view text);
 
 /// Everything up to the end of standard input, byte for byte.
