@@ -1,0 +1,1 @@
+[Version] 2.0 # GHz S MA R 50

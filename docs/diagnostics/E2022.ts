@@ -1,0 +1,5 @@
+[Version] 2.0
+# GHz S MA R 50
+[Number of Ports] 2
+[Reference] 50
+[Network Data]

@@ -1,0 +1,1 @@
+[Number of Ports] 2

@@ -1,0 +1,3 @@
+[Version] 2.0
+# GHz S MA R 50
+[Number of Frequencies] 1

@@ -1,0 +1,4 @@
+[Version] 2.0
+# GHz S MA R 50
+[Number of Ports] 1
+[End Information]

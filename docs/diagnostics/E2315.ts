@@ -1,0 +1,5 @@
+[Version] 2.0
+# GHz S MA R 50
+[Number of Ports] 2
+[Mixed-Mode Order] D1,2
+[Network Data]

@@ -1,0 +1,10 @@
+[Version] 2.0
+# GHz S MA R 50
+[Number of Ports] 2
+[Reference] 50 75
+[Mixed-Mode Order] D1,2 C1,2
+[Two-Port Data Order] 12_21
+[Number of Frequencies] 1
+[Network Data]
+2 0.1 0 0.9 -30 0.9 -30 0.1 0
+[End]
