@@ -9,7 +9,8 @@ fails if there is any. The tables below are the rule; what they mean:
 - A public header includes public headers only.
 - Tools and examples are callers: public headers, and files of their own folder.
   Of the tool's folders, too, each may include those that are listed for it.
-- Tests, benchmarks and fuzz targets may include anything of the library.
+- Tests, benchmarks and fuzz targets may include anything of the library, tests
+  also anything of the tool.
 - Headers of an operating system stand in the files that map a file to memory,
   <iostream> in the one that prints.
 """
@@ -118,7 +119,7 @@ class Checker:
         top = self.name(file).split("/")[0]
         if top in UNRESTRICTED:
             folders.append(self.root / top)
-        if self.name(file).startswith(TOOL):
+        if self.name(file).startswith(TOOL) or top == "tests":
             folders.append(self.root / TOOL)
         if quoted:
             folders.insert(0, file.parent)

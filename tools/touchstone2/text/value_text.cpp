@@ -72,6 +72,19 @@ std::string with_point(std::string digits, std::size_t whole) {
   return digits;
 }
 
+bool is_ascii(char c) { return static_cast<unsigned char>(c) < 0x80; }
+bool is_printable_ascii(char c) { return c >= 0x20 && c < 0x7F; }
+
+void append_byte(std::string& text, char c, bool as_it_is) {
+  constexpr std::string_view kHex = "0123456789abcdef";
+  if (as_it_is) {
+    text += c;
+  } else {
+    const auto byte = static_cast<unsigned char>(c);
+    text.append("\\x").append({kHex[byte >> 4], kHex[byte & 0x0F]});
+  }
+}
+
 }  // namespace
 
 std::string_view version_text(FileVersion version) {
@@ -147,16 +160,17 @@ double frequency_in_hz(double unscaled, FrequencyScaleFactor unit) {
 }
 
 std::string printable(std::string_view text) {
-  constexpr std::string_view kHex = "0123456789abcdef";
   std::string result;
   for (const char c : text) {
-    const auto byte = static_cast<unsigned char>(c);
-    if ((byte >= 0x20 && byte != 0x7F) || c == '\t') {
-      result += c;
-    } else {
-      result.append("\\x").append({kHex[byte >> 4], kHex[byte & 0x0F]});
-    }
+    const bool is_control = is_ascii(c) && !is_printable_ascii(c);
+    append_byte(result, c, !is_control || c == '\t');
   }
+  return result;
+}
+
+std::string printable_ascii(std::string_view text) {
+  std::string result;
+  for (const char c : text) append_byte(result, c, is_printable_ascii(c));
   return result;
 }
 

@@ -42,6 +42,9 @@ double frequency_in_hz(double unscaled, touchstone2::FrequencyScaleFactor unit);
 /// The text with its control characters as "\x1b", so that a file cannot steer a terminal.
 std::string printable(std::string_view text);
 
+/// The text with every byte but printable ASCII as "\xb5", the tab included.
+std::string printable_ascii(std::string_view text);
+
 }  // namespace tool
 
 #endif

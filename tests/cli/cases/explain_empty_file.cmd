@@ -1,0 +1,1 @@
+touchstone2 explain e1003

@@ -1,0 +1,1 @@
+touchstone2 explain --list E2308

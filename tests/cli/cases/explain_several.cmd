@@ -1,0 +1,1 @@
+touchstone2 explain w2005 e2311
