@@ -14,9 +14,9 @@ function(touchstone2_embed_files source)
     cmake_path(GET file FILENAME name)
     file(READ "${file}" hex HEX)
     string(REGEX REPLACE "([0-9a-f][0-9a-f])" "\\\\x\\1" literal "${hex}")
-    # Pieces of 20 bytes: compilers need not take string literals of any length.
-    string(REPEAT "...." 20 piece)
-    string(REGEX REPLACE "(${piece})" "\\1\"\n     \"" literal "${literal}")
+    # 20 bytes a line, so that editors and compilers can take it.
+    string(REPEAT "...." 20 line)
+    string(REGEX REPLACE "(${line})" "\\1\"\n     \"" literal "${literal}")
     string(APPEND entries "    {\"${name}\",\n     \"${literal}\"sv},\n")
   endforeach()
 

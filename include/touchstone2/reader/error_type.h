@@ -11,7 +11,7 @@ namespace touchstone2 {
 /// One code per rule of the format. The numbers are interface: users search for them and
 /// scripts match them. Errors and warnings share the enumeration; the class of a diagnostic
 /// tells which of the two it is. The first code of each group is the group's heading and is
-/// never raised.
+/// never raised. docs/diagnostics has a page for each, with the smallest file that raises it.
 enum class ErrorType : std::int32_t {
   // Access to the file.
   FileAccess = 1000,  ///< heading
