@@ -66,15 +66,6 @@ std::string reference_text(const File& file) {
   return text + "ohm (port by port)";
 }
 
-std::string mixed_mode_text(const File& file) {
-  if (!file.uses_mixed_mode()) return "no";
-  std::string text;
-  for (const auto& descriptor : file.get_mixed_mode_descriptors()) {
-    text += (text.empty() ? "" : " ") + descriptor_text(descriptor);
-  }
-  return text;
-}
-
 void add_comments(std::string& page, std::string_view label,
                   const std::vector<std::string>& comments) {
   add_row(page, label, count_text(comments.size(), "line", "lines"));

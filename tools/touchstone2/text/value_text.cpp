@@ -85,6 +85,25 @@ void append_byte(std::string& text, char c, bool as_it_is) {
   }
 }
 
+Decimal shortest_decimal(double value) {
+  std::array<char, 64> buffer;
+  return parse_scientific(fill(buffer, std::to_chars(buffer.data(), buffer.data() + buffer.size(),
+                                                     value, std::chars_format::scientific)));
+}
+
+// In engineering units. `unscaled` is the number that the decimal stands for.
+std::string scaled_text(Decimal decimal, double unscaled, FrequencyScaleFactor unit) {
+  if (decimal.digits == "0") return "0 Hz";
+  decimal.exponent += power_of_ten(unit);
+  const auto prefix = static_cast<std::size_t>(decimal.exponent / 3);
+  if (decimal.exponent < 0 || prefix >= kPrefixes.size()) {
+    return number_text(frequency_in_hz(unscaled, unit)) + " Hz";
+  }
+  const auto whole = static_cast<std::size_t>(decimal.exponent % 3 + 1);
+  std::string text = with_point(std::move(decimal.digits), whole);
+  return text.append(" ").append(kPrefixes[prefix]).append("Hz");
+}
+
 }  // namespace
 
 std::string_view version_text(FileVersion version) {
@@ -112,6 +131,15 @@ std::string descriptor_text(const touchstone2::MixedModeDescriptor& descriptor) 
   return "";
 }
 
+std::string mixed_mode_text(const touchstone2::File& file) {
+  if (!file.uses_mixed_mode()) return "no";
+  std::string text;
+  for (const auto& descriptor : file.get_mixed_mode_descriptors()) {
+    text += (text.empty() ? "" : " ") + descriptor_text(descriptor);
+  }
+  return text;
+}
+
 std::string number_text(double value) {
   std::array<char, 64> buffer;
   return std::string(
@@ -135,25 +163,19 @@ std::string grouped(std::size_t number) {
 
 std::string frequency_text(double unscaled, FrequencyScaleFactor unit) {
   std::array<char, 64> buffer;
-  Decimal decimal = parse_scientific(
-      fill(buffer, std::to_chars(buffer.data(), buffer.data() + buffer.size(), unscaled,
-                                 std::chars_format::scientific, kFrequencyDigits - 1)));
-  if (decimal.digits == "0") return "0 Hz";
-  decimal.exponent += power_of_ten(unit);
-  const auto prefix = static_cast<std::size_t>(decimal.exponent / 3);
-  if (decimal.exponent < 0 || prefix >= kPrefixes.size()) {
-    return number_text(frequency_in_hz(unscaled, unit)) + " Hz";
-  }
-  const auto whole = static_cast<std::size_t>(decimal.exponent % 3 + 1);
-  std::string text = with_point(std::move(decimal.digits), whole);
-  return text.append(" ").append(kPrefixes[prefix]).append("Hz");
+  return scaled_text(
+      parse_scientific(
+          fill(buffer, std::to_chars(buffer.data(), buffer.data() + buffer.size(), unscaled,
+                                     std::chars_format::scientific, kFrequencyDigits - 1))),
+      unscaled, unit);
+}
+
+std::string exact_frequency_text(double unscaled, FrequencyScaleFactor unit) {
+  return scaled_text(shortest_decimal(unscaled), unscaled, unit);
 }
 
 double frequency_in_hz(double unscaled, FrequencyScaleFactor unit) {
-  std::array<char, 64> buffer;
-  const Decimal decimal =
-      parse_scientific(fill(buffer, std::to_chars(buffer.data(), buffer.data() + buffer.size(),
-                                                  unscaled, std::chars_format::scientific)));
+  const Decimal decimal = shortest_decimal(unscaled);
   const std::string text =
       with_point(decimal.digits, 1) + "e" + std::to_string(decimal.exponent + power_of_ten(unit));
   return std::strtod(text.c_str(), nullptr);  // the tool's locale is the C locale; may be infinite

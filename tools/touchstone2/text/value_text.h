@@ -2,6 +2,7 @@
 #ifndef TOUCHSTONE2_TOOL_VALUE_TEXT_H
 #define TOUCHSTONE2_TOOL_VALUE_TEXT_H
 
+#include <touchstone2/model/file.h>
 #include <touchstone2/model/types.h>
 
 #include <cstddef>
@@ -21,6 +22,9 @@ std::string_view order_text(touchstone2::TwoPortDataOrder order);
 /// "S1", "D1,2" or "C1,2".
 std::string descriptor_text(const touchstone2::MixedModeDescriptor& descriptor);
 
+/// "D1,2 C1,2", or "no".
+std::string mixed_mode_text(const touchstone2::File& file);
+
 /// The shortest text that reads back as the same number.
 std::string number_text(double value);
 
@@ -34,6 +38,9 @@ std::string grouped(std::size_t number);
 /// to the decimal digits, so 4.1 GHz never turns into 4.0999999999999995 GHz.
 /// @param unscaled  the frequency in the file's unit
 std::string frequency_text(double unscaled, touchstone2::FrequencyScaleFactor unit);
+
+/// The same with all digits: frequencies that differ have different texts.
+std::string exact_frequency_text(double unscaled, touchstone2::FrequencyScaleFactor unit);
 
 /// The number of Hz that is nearest to the decimal text of the frequency: 4.1 GHz gives
 /// 4100000000, which 4.1 * 1e9 misses. Infinity beyond the range of a double.
