@@ -47,10 +47,19 @@ TOOL_MAY_INCLUDE = {
     "text": set(),
     "terminal": {"text"},
     "diagnostics": {"inputs", "terminal", "text"},
-    "json": {"diagnostics", "text"},
+    "comparison": {"text"},
+    "json": {"comparison", "diagnostics", "text"},
     "inputs": {"terminal", "text"},
     "outputs": {"diagnostics", "inputs", "terminal", "text"},
-    "commands": {"diagnostics", "inputs", "json", "outputs", "terminal", "text"},
+    "commands": {
+        "comparison",
+        "diagnostics",
+        "inputs",
+        "json",
+        "outputs",
+        "terminal",
+        "text",
+    },
 }
 UNRESTRICTED = {"tests", "bench", "fuzz"}
 

@@ -14,6 +14,7 @@
 
 #include "commands/check.h"
 #include "commands/convert.h"
+#include "commands/diff.h"
 #include "commands/explain.h"
 #include "commands/info.h"
 #include "commands/ports.h"
@@ -30,6 +31,7 @@ constexpr const char* kFooter = R"(Examples:
   touchstone2 check measurements/
   touchstone2 explain E2311
   touchstone2 info amplifier.s2p
+  touchstone2 diff before.s2p after.s2p
   touchstone2 ports coupler.s4p --set 1=in -o named.s4p
   touchstone2 convert amplifier.s2p --to v2 -o amplifier.ts
   touchstone2 check --help)";
@@ -68,6 +70,7 @@ int run(std::vector<std::string> arguments) {
   tool::add_check_command(app, exit_code);
   tool::add_explain_command(app, exit_code);
   tool::add_info_command(app, exit_code);
+  tool::add_diff_command(app, exit_code);
   tool::add_ports_command(app, exit_code);
   tool::add_convert_command(app, exit_code);
   tool::add_reorder_command(app, exit_code);

@@ -14,6 +14,8 @@ namespace tool {
 enum ExitCode : int {
   kAllValid = 0,
   kDone = 0,          ///< the output is written
+  kEqual = 0,         ///< two files are the same
+  kDifferent = 1,     ///< and they are not
   kRefused = 1,       ///< an input is not valid, or an output would not say the same
   kNotDone = 2,       ///< usage error, nothing to check, or input or output that failed
   kClosedPipe = 141,  ///< what shells show for a program that a closed pipe has ended

@@ -1,0 +1,150 @@
+// A file that cannot be compared is trouble, be it refused or unreadable: exit code 1 is for
+// files that were compared and differ.
+
+#include "commands/diff.h"
+
+#include <cmath>
+#include <memory>
+#include <stdexcept>
+#include <string_view>
+
+#include <CLI/CLI.hpp>
+#include <nlohmann/json.hpp>
+
+#include "comparison/comparison.h"
+#include "comparison/comparison_text.h"
+#include "diagnostics/report.h"
+#include "inputs/source_file.h"
+#include "json/comparison_json.h"
+#include "json/json_report.h"
+#include "terminal/console.h"
+#include "text/value_text.h"
+
+namespace tool {
+
+namespace {
+
+constexpr const char* kFooter =
+    R"(Content: ports, kind of parameter, reference impedances, mixed-mode order, port names,
+frequencies, values, noise data. Form: version, unit, format, matrix, two-port order,
+references given port by port, an information section, comments at the head. Of Y-, Z-,
+H- and G-parameters without noise data the reference impedance is form. Files that
+differ in form only are equal, unless --strict is given.
+
+Frequencies are compared exactly, in Hz: 1 GHz is 1000 MHz. With --frequency-tol F a
+frequency goes with the nearest one of the other file, if the two lie no further apart
+than F times the greater one.
+
+Values a and b are compared as complex numbers, in volts per volt, ohms and siemens,
+whatever the format and the version. Their difference is
+
+    |a - b| / max(U, |a|, |b|)
+
+where U is 1 for ratios such as S-parameters, the reference impedance for impedances
+and its inverse for admittances. Values are equal if the difference is at most TOL.
+So TOL is relative for great values and absolute for small ones. The same holds for
+noise data (the noise figure in dB); reference impedances are compared with U = 0.
+
+Without --tol values have to be the same numbers. Where a file's numbers had to be
+converted first (MA and RI; ohms and multiples of the reference) rounding is allowed:
+|a - b| up to 1e-13 max(|a|, |b|) + 1e-299, as -6000 dB stand for zero.
+
+JSON: one object with equal, content, form, network and noise; docs/schemas/diff.schema.json
+describes it.
+
+Exit code: 0 the files are equal; 1 they differ; 2 a file was refused or could not be
+read, wrong usage, no memory, or output that cannot be written; 141 the reader of standard
+output has gone away.
+
+Examples:
+  touchstone2 diff before.s2p after.s2p
+  touchstone2 diff simulated.s4p measured.s4p --tol 0.01 --frequency-tol 1e-9
+  unzip -p archive.zip filter.s2p | touchstone2 diff - filter.s2p --json)";
+
+void check_tolerance(const char* option, double value) {
+  if (std::isfinite(value) && value >= 0.0) return;
+  throw std::runtime_error(std::string(option) + " is a number from 0 upwards");
+}
+
+void check(const DiffOptions& options) {
+  check_tolerance("--tol", options.tolerance.values);
+  check_tolerance("--frequency-tol", options.tolerance.frequencies);
+  if (options.path_a == "-" && options.path_b == "-") {
+    throw std::runtime_error("standard input cannot be both files");
+  }
+}
+
+bool are_equal(const Comparison& comparison, const DiffOptions& options) {
+  return comparison.same_content() && (comparison.same_form() || !options.strict);
+}
+
+std::string_view verdict_on(const Comparison& comparison) {
+  if (!comparison.same_content()) return "different";
+  return comparison.same_form() ? "equal" : "equal but for the form";
+}
+
+int diff_as_json(SourceFile& a, SourceFile& b, const DiffOptions& options) {
+  CollectingHandler of_a;
+  CollectingHandler of_b;
+  const bool valid_a = a.read(of_a, Extent::whole);
+  const bool valid_b = b.read(of_b, Extent::whole);
+  Json object = Json::object();
+  object["a"] = verdict_to_json(a.name(), valid_a, of_a.diagnostics());
+  object["b"] = verdict_to_json(b.name(), valid_b, of_b.diagnostics());
+  object["tolerance"] = options.tolerance.values;
+  object["frequency_tolerance"] = options.tolerance.frequencies;
+  object["equal"] = nullptr;
+  int exit_code = kNotDone;
+  if (valid_a && valid_b) {
+    const Comparison comparison = compare(a.file(), b.file(), options.tolerance);
+    object["equal"] = are_equal(comparison, options);
+    add_comparison(object, comparison);
+    exit_code = object["equal"] ? kEqual : kDifferent;
+  }
+  write_output(json_line(object));
+  return exit_code;
+}
+
+int diff_as_text(SourceFile& a, SourceFile& b, const DiffOptions& options) {
+  PrintingHandler of_a;
+  PrintingHandler of_b;
+  const bool valid_a = a.read(of_a, Extent::whole);
+  const bool valid_b = b.read(of_b, Extent::whole);
+  if (!valid_a || !valid_b) return kNotDone;
+  const Comparison comparison = compare(a.file(), b.file(), options.tolerance);
+  std::string page = "A: " + printable(a.name()) + "\nB: " + printable(b.name()) + "\n\n";
+  page.append(comparison_text(comparison)).append(verdict_on(comparison)).append("\n");
+  write_output(page);
+  return are_equal(comparison, options) ? kEqual : kDifferent;
+}
+
+}  // namespace
+
+int diff(const DiffOptions& options) {
+  check(options);
+  SourceFile a(options.path_a);
+  SourceFile b(options.path_b);
+  return options.json ? diff_as_json(a, b, options) : diff_as_text(a, b, options);
+}
+
+void add_diff_command(CLI::App& app, int& exit_code) {
+  const auto options = std::make_shared<DiffOptions>();
+  CLI::App* command = app.add_subcommand("diff", "Say what two files differ in");
+  command->footer(kFooter);
+  command->add_option("A", options->path_a, "A file, or - for standard input")->required();
+  command->add_option("B", options->path_b, "Another one")->required();
+  command
+      ->add_option("--tol", options->tolerance.values,
+                   "The greatest difference of values that counts as none; 0 if not given")
+      ->type_name("TOL");
+  command
+      ->add_option("--frequency-tol", options->tolerance.frequencies,
+                   "The same for frequencies, relative; 0 if not given")
+      ->type_name("F");
+  command->add_flag("--strict", options->strict, "Files that differ in form differ");
+  command->add_flag("--json", options->json,
+                    "Print JSON instead, and no diagnostics to standard error");
+  command->callback([options, &exit_code] { exit_code = diff(*options); });
+}
+
+}  // namespace tool
