@@ -35,26 +35,27 @@ Frequencies are compared exactly, in Hz: 1 GHz is 1000 MHz. With --frequency-tol
 frequency goes with the nearest one of the other file, if the two lie no further apart
 than F times the greater one.
 
-Values a and b are compared as complex numbers, in volts per volt, ohms and siemens,
-whatever the format and the version. Their difference is
+Values a and b are compared as complex numbers, ratios or in ohms or siemens, whatever
+the format and the version. Their difference is
 
     |a - b| / max(U, |a|, |b|)
 
 where U is 1 for ratios such as S-parameters, the reference impedance for impedances
 and its inverse for admittances. Values are equal if the difference is at most TOL.
-So TOL is relative for great values and absolute for small ones. The same holds for
-noise data (the noise figure in dB); reference impedances are compared with U = 0.
+So TOL is relative for great values and absolute for small ones, and a difference that
+is shown is the TOL that would do. The same holds for noise data (the noise figure in
+dB); reference impedances are compared with U = 0.
 
 Without --tol values have to be the same numbers. Where a file's numbers had to be
 converted first (MA and RI; ohms and multiples of the reference) rounding is allowed:
 |a - b| up to 1e-13 max(|a|, |b|) + 1e-299, as -6000 dB stand for zero.
 
-JSON: one object with equal, content, form, network and noise; docs/schemas/diff.schema.json
-describes it.
+JSON: one object with the files' diagnostics, equal, content, form, comments, network and
+noise; docs/schemas/diff.schema.json describes it.
 
 Exit code: 0 the files are equal; 1 they differ; 2 a file was refused or could not be
-read, wrong usage, no memory, or output that cannot be written; 141 the reader of standard
-output has gone away.
+read, wrong usage, no memory, or output that cannot be written; 141 the reader of
+standard output has gone away.
 
 Examples:
   touchstone2 diff before.s2p after.s2p

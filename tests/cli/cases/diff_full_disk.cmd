@@ -1,0 +1,1 @@
+touchstone2 diff examples/good/antenna.s1p examples/good/antenna.s1p >/dev/full

@@ -1,0 +1,1 @@
+touchstone2 diff --help
