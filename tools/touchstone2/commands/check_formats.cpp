@@ -77,9 +77,9 @@ class JsonReport : public CheckReport {
     CollectingHandler handler;
     Verdict verdict = read(handler);
     if (!verdict.done) return verdict;
-    Json object = verdict_to_json(source.name(), verdict.valid, handler.diagnostics());
-    if (!verdict.failure.empty()) object["failure"] = verdict.failure;
-    write(Stream::output, json_line(object));
+    write(Stream::output,
+          json_line(verdict_to_json(source.name(), verdict.valid, handler.diagnostics(),
+                                    verdict.failure)));
     return verdict;
   }
 

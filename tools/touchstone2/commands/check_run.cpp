@@ -6,7 +6,6 @@
 
 #include <algorithm>
 #include <filesystem>
-#include <new>
 #include <system_error>
 #include <thread>
 #include <utility>
@@ -109,23 +108,16 @@ void CheckRun::check(std::size_t job) {
 // An attempt that fails is complained about here.
 Verdict CheckRun::read(SourceFile& source, CountingHandler& handler,
                        const CheckReport::Write& write, std::size_t job) {
-  Verdict verdict;
-  const auto complain_of = [&](const std::string& problem) {
+  const Attempt attempt = source.try_read(handler, options_.extent);
+  if (!attempt.failure.empty()) {
+    const std::string problem = source.name() + ": " + attempt.failure;
     write(Stream::error, complaint(problem));
     add_problem(job, problem);
-  };
-  try {
-    verdict.valid = source.read(handler, options_.extent);
-  } catch (const UnsteadyFile& unsteady) {
-    complain_of(unsteady.what());
-    verdict.failure = unsteady.reason();
-  } catch (const std::bad_alloc&) {
-    complain_of(source.name() + ": out of memory");
-    verdict.done = false;
-  } catch (const std::exception& failure) {
-    complain_of(source.name() + ": " + failure.what());
-    verdict.done = false;
   }
+  Verdict verdict;
+  verdict.valid = attempt.outcome == Outcome::valid;
+  verdict.done = attempt.outcome != Outcome::failed;
+  verdict.failure = attempt.failure;
   verdict.counts = handler.counts();
   verdict.error_code = handler.error_code();
   if (options_.warnings_refuse && verdict.counts.warnings > 0) verdict.valid = false;

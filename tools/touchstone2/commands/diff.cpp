@@ -84,19 +84,35 @@ std::string_view verdict_on(const Comparison& comparison) {
   return comparison.same_form() ? "equal" : "equal but for the form";
 }
 
+// Adds what is said about the file.
+Outcome read_to_json(Json& verdict, SourceFile& source) {
+  CollectingHandler handler;
+  const Attempt attempt = source.try_read(handler, Extent::whole);
+  complain_about(source, attempt);
+  verdict = verdict_to_json(source.name(), attempt.outcome == Outcome::valid,
+                            handler.diagnostics(), attempt.failure);
+  return attempt.outcome;
+}
+
+Outcome read_to_terminal(SourceFile& source) {
+  PrintingHandler handler(source, write_error);
+  const Attempt attempt = source.try_read(handler, Extent::whole);
+  handler.finish();
+  complain_about(source, attempt);
+  write_error(explain_hint(handler.error_code()));
+  return attempt.outcome;
+}
+
 int diff_as_json(SourceFile& a, SourceFile& b, const DiffOptions& options) {
-  CollectingHandler of_a;
-  CollectingHandler of_b;
-  const bool valid_a = a.read(of_a, Extent::whole);
-  const bool valid_b = b.read(of_b, Extent::whole);
   Json object = Json::object();
-  object["a"] = verdict_to_json(a.name(), valid_a, of_a.diagnostics());
-  object["b"] = verdict_to_json(b.name(), valid_b, of_b.diagnostics());
+  const Outcome of_a = read_to_json(object["a"], a);
+  const Outcome of_b = read_to_json(object["b"], b);
+  if (of_a == Outcome::failed || of_b == Outcome::failed) return kNotDone;
   object["tolerance"] = options.tolerance.values;
   object["frequency_tolerance"] = options.tolerance.frequencies;
   object["equal"] = nullptr;
   int exit_code = kNotDone;
-  if (valid_a && valid_b) {
+  if (of_a == Outcome::valid && of_b == Outcome::valid) {
     const Comparison comparison = compare(a.file(), b.file(), options.tolerance);
     object["equal"] = are_equal(comparison, options);
     add_comparison(object, comparison);
@@ -107,11 +123,9 @@ int diff_as_json(SourceFile& a, SourceFile& b, const DiffOptions& options) {
 }
 
 int diff_as_text(SourceFile& a, SourceFile& b, const DiffOptions& options) {
-  PrintingHandler of_a;
-  PrintingHandler of_b;
-  const bool valid_a = a.read(of_a, Extent::whole);
-  const bool valid_b = b.read(of_b, Extent::whole);
-  if (!valid_a || !valid_b) return kNotDone;
+  const Outcome of_a = read_to_terminal(a);
+  const Outcome of_b = read_to_terminal(b);
+  if (of_a != Outcome::valid || of_b != Outcome::valid) return kNotDone;
   const Comparison comparison = compare(a.file(), b.file(), options.tolerance);
   std::string page = "A: " + printable(a.name()) + "\nB: " + printable(b.name()) + "\n\n";
   page.append(comparison_text(comparison)).append(verdict_on(comparison)).append("\n");

@@ -1,8 +1,9 @@
-/// touchstone2 info: says what one file holds.
+/// touchstone2 info: says what files hold.
 #ifndef TOUCHSTONE2_TOOL_INFO_H
 #define TOUCHSTONE2_TOOL_INFO_H
 
 #include <string>
+#include <vector>
 
 namespace CLI {
 class App;
@@ -11,12 +12,12 @@ class App;
 namespace tool {
 
 struct InfoOptions {
-  std::string path;
+  std::vector<std::string> paths;
+  bool short_lines = false;
   bool json = false;
 };
 
 /// @return the exit code
-/// @throws std::exception  when the attempt to read the file fails
 int info(const InfoOptions& options);
 
 /// Adds the subcommand to `app`; when it is chosen, parsing runs it and stores its exit code

@@ -6,7 +6,9 @@
 #include <touchstone2/reader/parser.h>
 
 #include <algorithm>
+#include <exception>
 #include <fstream>
+#include <new>
 #include <sstream>
 #include <stdexcept>
 
@@ -72,6 +74,18 @@ bool SourceFile::read(touchstone2::MessageHandler& handler, Extent extent) {
   touchstone2::Parser parser(file_, handler, bytes_);
   parser.set_progress(&progress_);
   return run(parser, extent);
+}
+
+Attempt SourceFile::try_read(touchstone2::MessageHandler& handler, Extent extent) {
+  try {
+    return {read(handler, extent) ? Outcome::valid : Outcome::refused, ""};
+  } catch (const UnsteadyFile& unsteady) {
+    return {Outcome::refused, unsteady.reason()};
+  } catch (const std::bad_alloc&) {
+    return {Outcome::failed, "out of memory"};
+  } catch (const std::exception& failure) {
+    return {Outcome::failed, failure.what()};
+  }
 }
 
 bool SourceFile::read_named(touchstone2::MessageHandler& handler, Extent extent) {

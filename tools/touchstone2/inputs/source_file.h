@@ -19,6 +19,14 @@ namespace tool {
 
 enum class Extent { whole, header };
 
+/// What a read has come to; `failed` is an attempt that could not be made.
+enum class Outcome { valid, refused, failed };
+
+struct Attempt {
+  Outcome outcome = Outcome::failed;
+  std::string failure;  ///< why the file could not be read to its end; empty if it could
+};
+
 /// Thrown when a file did not stay what it was while it was read; what() names it.
 class UnsteadyFile : public Refusal {
  public:
@@ -51,6 +59,9 @@ class SourceFile {
   /// @throws UnsteadyFile    the file was changed, or a part of it could not be read any more
   /// @throws std::exception  when the attempt itself fails: no memory, no standard input
   bool read(touchstone2::MessageHandler& handler, Extent extent);
+
+  /// The same for one input of several. A file that did not stay what it was is refused.
+  Attempt try_read(touchstone2::MessageHandler& handler, Extent extent);
 
   const touchstone2::File& file() const { return file_; }
 

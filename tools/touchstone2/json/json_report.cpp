@@ -57,7 +57,7 @@ Json mixed_mode_to_json(const File& file) {
 }  // namespace
 
 Json verdict_to_json(const std::string& path, bool valid,
-                     const std::vector<Diagnostic>& diagnostics) {
+                     const std::vector<Diagnostic>& diagnostics, const std::string& failure) {
   Json object = Json::object();
   object["schema_version"] = kSchemaVersion;
   object["path"] = path;
@@ -66,6 +66,7 @@ Json verdict_to_json(const std::string& path, bool valid,
   for (const Diagnostic& diagnostic : diagnostics) {
     object["diagnostics"].push_back(diagnostic_to_json(diagnostic));
   }
+  if (!failure.empty()) object["failure"] = failure;
   return object;
 }
 

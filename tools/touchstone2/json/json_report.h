@@ -27,8 +27,9 @@ constexpr int kSchemaVersion = 1;
 /// {"schema_version": ..., "path": ..., "valid": ..., "diagnostics": [...]}. A diagnostic has
 /// severity ("error" or "warning"), code, line, column (null when there is no position), token and
 /// message.
+/// @param failure  why the file could not be read to its end, for a member of that name; may be empty
 Json verdict_to_json(const std::string& path, bool valid,
-                     const std::vector<Diagnostic>& diagnostics);
+                     const std::vector<Diagnostic>& diagnostics, const std::string& failure);
 
 /// What a valid file holds, without its data. Looks for the port names.
 Json file_to_json(const touchstone2::File& file);

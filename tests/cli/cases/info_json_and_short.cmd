@@ -1,0 +1,1 @@
+touchstone2 info --json --short examples/good/antenna.s1p

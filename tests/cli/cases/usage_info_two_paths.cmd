@@ -1,1 +1,0 @@
-touchstone2 info examples/good/antenna.s1p examples/good/filter.s2p
