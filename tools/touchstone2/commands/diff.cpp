@@ -114,9 +114,10 @@ int diff_as_json(SourceFile& a, SourceFile& b, const DiffOptions& options) {
   int exit_code = kNotDone;
   if (of_a == Outcome::valid && of_b == Outcome::valid) {
     const Comparison comparison = compare(a.file(), b.file(), options.tolerance);
-    object["equal"] = are_equal(comparison, options);
+    const bool equal = are_equal(comparison, options);
+    object["equal"] = equal;
     add_comparison(object, comparison);
-    exit_code = object["equal"] ? kEqual : kDifferent;
+    exit_code = equal ? kEqual : kDifferent;
   }
   write_output(json_line(object));
   return exit_code;

@@ -72,7 +72,7 @@ std::size_t points_of(const Params* params) {
 template <typename Params>
 std::string range_text(const Params& params, FrequencyScaleFactor unit) {
   const std::size_t points = params.freq_points();
-  const std::string text = frequency_text(params.get_unscaled_freq(0), unit);
+  std::string text = frequency_text(params.get_unscaled_freq(0), unit);
   if (points == 1) return text;
   return text + " to " + frequency_text(params.get_unscaled_freq(points - 1), unit);
 }

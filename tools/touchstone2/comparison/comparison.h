@@ -4,8 +4,6 @@
 
 #include <touchstone2/model/file.h>
 
-#include <string>
-
 #include "comparison/data.h"
 #include "comparison/facts.h"
 #include "comparison/numbers.h"

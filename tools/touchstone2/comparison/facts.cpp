@@ -1,4 +1,4 @@
-// Facts are compared as the texts that are shown; reference impedances are numbers.
+// Facts are compared as the texts that are shown, where two texts cannot mean the same.
 
 #include "comparison/facts.h"
 
@@ -60,11 +60,17 @@ bool references_matter(const File& a, const File& b) {
   return a.get_parameter_type() == ParameterType::S || has_noise(a) || has_noise(b);
 }
 
+// All ports single-ended in their order is what a file without mixed mode has.
+bool have_same_mixed_mode(const File& a, const File& b) {
+  if (!a.uses_mixed_mode() && !b.uses_mixed_mode()) return true;
+  return a.get_mixed_mode_descriptors() == b.get_mixed_mode_descriptors();
+}
+
 bool same_ohms(double a, double b, double tolerance) {
   return relative_difference({}, {a, 0.0}, {b, 0.0}, /*unit=*/0.0) <= tolerance;
 }
 
-// Texts of the impedances; those within the tolerance get the same text.
+// Those within the tolerance get the same text.
 void compare_references_by_port(FactDifferences& differences, const File& a, const File& b,
                                 double tolerance) {
   const std::vector<double>& of_a = a.get_reference_impedance_per_port();
@@ -99,7 +105,9 @@ FactDifferences compare_content(const File& a, const File& b, double tolerance) 
   compare_fact(differences, "ports", std::to_string(ports_a), std::to_string(ports_b));
   compare_fact(differences, "parameter", parameter_text(a.get_parameter_type()),
                parameter_text(b.get_parameter_type()));
-  compare_fact(differences, "mixed mode", mixed_mode_text(a), mixed_mode_text(b));
+  if (!have_same_mixed_mode(a, b)) {
+    compare_fact(differences, "mixed mode", mixed_mode_text(a), mixed_mode_text(b));
+  }
   if (references_matter(a, b)) compare_references(differences, a, b, tolerance);
   if (ports_a == ports_b) {
     compare_lists(differences, "port name", a.get_port_names(), b.get_port_names(), "");
@@ -118,6 +126,9 @@ FactDifferences compare_form(const File& a, const File& b) {
   if (!references_matter(a, b)) compare_references(differences, a, b, /*tolerance=*/0.0);
   compare_fact(differences, "reference by port", yes_or_no(a.uses_reference_impedance_per_port()),
                yes_or_no(b.uses_reference_impedance_per_port()));
+  if (have_same_mixed_mode(a, b)) {
+    compare_fact(differences, "mixed mode", mixed_mode_text(a), mixed_mode_text(b));
+  }
   compare_fact(differences, "matrix", matrix_text(a.get_matrix_format()),
                matrix_text(b.get_matrix_format()));
   if (a.get_number_of_ports() == 2 && b.get_number_of_ports() == 2) {
@@ -137,8 +148,7 @@ FactDifferences compare_comments(const File& a, const File& b) {
 
 bool have_same_cells(const File& a, const File& b) {
   return a.get_number_of_ports() == b.get_number_of_ports() &&
-         a.get_parameter_type() == b.get_parameter_type() &&
-         mixed_mode_text(a) == mixed_mode_text(b);
+         a.get_parameter_type() == b.get_parameter_type() && have_same_mixed_mode(a, b);
 }
 
 }  // namespace tool
