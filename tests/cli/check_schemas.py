@@ -22,6 +22,7 @@ ODD_FILES = {
     b"warnings.s1p": b"! caf\xe9 caf\xc3\xa9 \x01\n# GHz S RI R 50\n1 2 3",
     b"latin1 \xe9 %41#?.s1p": b"# GHz S RI R 50\n1 \x1b 3\n",
     b"no_records.s1p": b"# GHz S RI R 50\n",
+    b"infinite.s1p": b"# Hz S DB R 50\n1e9 1e300 45\n",
     b"noise.s2p": b"# GHz S MA R 50\n1 1 2 3 4 5 6 7 8\n1 2 0.3 40 0.5\n",
 }
 
@@ -41,6 +42,7 @@ class Check:
     def __init__(self, arguments):
         self.arguments = arguments
         self.report = self.validator("report-1.json")
+        self.diff = self.validator("diff-1.json")
         self.sarif = self.validator("sarif.json")
         self.documents = 0
         self.failures = 0
@@ -50,11 +52,13 @@ class Check:
         jsonschema.Draft202012Validator.check_schema(schema)
         return jsonschema.Draft202012Validator(schema)
 
-    def run(self, *arguments):
-        done = subprocess.run(
+    def start(self, *arguments):
+        return subprocess.run(
             [self.arguments.tool, *arguments], capture_output=True, check=False, timeout=60
         )
-        return done.stdout
+
+    def run(self, *arguments):
+        return self.start(*arguments).stdout
 
     def fail(self, what):
         self.failures += 1
@@ -87,6 +91,15 @@ class Check:
         if not used or len(rules) != len(set(rules)) or set(rules) != used:
             self.fail(f"check --format sarif: rules {rules}, used {sorted(used)}")
 
+    def check_diff(self, file, others):
+        for other in others:
+            done = self.start("diff", "--json", file, other)
+            what = f"diff --json {file!r} {other!r}"
+            comparison = json.loads(done.stdout)
+            self.validate(self.diff, comparison, what)
+            if done.returncode != {True: 0, False: 1, None: 2}[comparison["equal"]]:
+                self.fail(f"{what}: exit code {done.returncode}")
+
     def check_damages(self, file):
         report = json.loads(self.run("check", "--json", file))
         for what, damage in DAMAGES.items():
@@ -115,6 +128,9 @@ def main():
         files = [*good, *broken, *odd, "no such file.s1p"]
         check.check_files(files)
         check.check_sarif(files)
+        check.check_diff(good[0], files)
+        for file in odd:
+            check.check_diff(file, files)
     check.check_damages(broken[0])
     print(f"{check.documents} documents, {check.failures} failures")
     return 1 if check.failures or not good or not broken else 0

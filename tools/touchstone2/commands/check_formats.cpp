@@ -77,9 +77,9 @@ class JsonReport : public CheckReport {
     CollectingHandler handler;
     Verdict verdict = read(handler);
     if (!verdict.done) return verdict;
-    write(Stream::output,
-          json_line(verdict_to_json(source.name(), verdict.valid, handler.diagnostics(),
-                                    verdict.failure)));
+    Json object = versioned_object();
+    add_verdict(object, source.name(), verdict.valid, handler.diagnostics(), verdict.failure);
+    write(Stream::output, json_line(object));
     return verdict;
   }
 

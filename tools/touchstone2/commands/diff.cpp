@@ -51,7 +51,7 @@ converted first (MA and RI; ohms and multiples of the reference) rounding is all
 |a - b| up to 1e-13 max(|a|, |b|) + 1e-299, as -6000 dB stand for zero.
 
 JSON: one object with the files' diagnostics, equal, content, form, comments, network and
-noise; docs/schemas/diff.schema.json describes it.
+noise; docs/schemas/diff-1.json describes it.
 
 Exit code: 0 the files are equal; 1 they differ; 2 a file was refused or could not be
 read, wrong usage, no memory, or output that cannot be written; 141 the reader of
@@ -89,8 +89,8 @@ Outcome read_to_json(Json& verdict, SourceFile& source) {
   CollectingHandler handler;
   const Attempt attempt = source.try_read(handler, Extent::whole);
   complain_about(source, attempt);
-  verdict = verdict_to_json(source.name(), attempt.outcome == Outcome::valid,
-                            handler.diagnostics(), attempt.failure);
+  add_verdict(verdict, source.name(), attempt.outcome == Outcome::valid, handler.diagnostics(),
+              attempt.failure);
   return attempt.outcome;
 }
 
@@ -104,7 +104,7 @@ Outcome read_to_terminal(SourceFile& source) {
 }
 
 int diff_as_json(SourceFile& a, SourceFile& b, const DiffOptions& options) {
-  Json object = Json::object();
+  Json object = versioned_object();
   const Outcome of_a = read_to_json(object["a"], a);
   const Outcome of_b = read_to_json(object["b"], b);
   if (of_a == Outcome::failed || of_b == Outcome::failed) return kNotDone;

@@ -205,8 +205,8 @@ class Teller {
     complain_about(source, attempt);
     if (attempt.outcome == Outcome::failed) return attempt.outcome;
     const bool valid = attempt.outcome == Outcome::valid;
-    Json object =
-        verdict_to_json(source.name(), valid, handler.diagnostics(), attempt.failure);
+    Json object = versioned_object();
+    add_verdict(object, source.name(), valid, handler.diagnostics(), attempt.failure);
     if (valid) object["file"] = file_to_json(source.file());
     write_output(json_line(object));
     return attempt.outcome;

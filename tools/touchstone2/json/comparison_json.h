@@ -1,4 +1,4 @@
-/// A comparison as JSON; docs/schemas/diff.schema.json says what the members mean.
+/// A comparison as JSON; docs/schemas/diff-1.json says what the members mean.
 #ifndef TOUCHSTONE2_TOOL_COMPARISON_JSON_H
 #define TOUCHSTONE2_TOOL_COMPARISON_JSON_H
 

@@ -56,10 +56,14 @@ Json mixed_mode_to_json(const File& file) {
 
 }  // namespace
 
-Json verdict_to_json(const std::string& path, bool valid,
-                     const std::vector<Diagnostic>& diagnostics, const std::string& failure) {
+Json versioned_object() {
   Json object = Json::object();
   object["schema_version"] = kSchemaVersion;
+  return object;
+}
+
+void add_verdict(Json& object, const std::string& path, bool valid,
+                 const std::vector<Diagnostic>& diagnostics, const std::string& failure) {
   object["path"] = path;
   object["valid"] = valid;
   object["diagnostics"] = Json::array();
@@ -67,7 +71,6 @@ Json verdict_to_json(const std::string& path, bool valid,
     object["diagnostics"].push_back(diagnostic_to_json(diagnostic));
   }
   if (!failure.empty()) object["failure"] = failure;
-  return object;
 }
 
 Json file_to_json(const File& file) {

@@ -24,12 +24,14 @@ using Json = nlohmann::ordered_json;
 /// one that goes or gets another meaning does.
 constexpr int kSchemaVersion = 1;
 
-/// {"schema_version": ..., "path": ..., "valid": ..., "diagnostics": [...]}. A diagnostic has
-/// severity ("error" or "warning"), code, line, column (null when there is no position), token and
-/// message.
-/// @param failure  why the file could not be read to its end, for a member of that name; may be empty
-Json verdict_to_json(const std::string& path, bool valid,
-                     const std::vector<Diagnostic>& diagnostics, const std::string& failure);
+/// {"schema_version": ...}, to which a command adds its own members.
+Json versioned_object();
+
+/// Adds path, valid and diagnostics. A diagnostic has severity ("error" or "warning"), code, line,
+/// column (null when there is no position), token and message.
+/// @param failure  why the file could not be read to its end; without a reason it is not added
+void add_verdict(Json& object, const std::string& path, bool valid,
+                 const std::vector<Diagnostic>& diagnostics, const std::string& failure);
 
 /// What a valid file holds, without its data. Looks for the port names.
 Json file_to_json(const touchstone2::File& file);
