@@ -67,8 +67,8 @@ class FileCopier {
   /// cell, bit for bit, and the matrix format becomes `Full`. Only before takeResult.
   TOUCHSTONE2_EXPORT void expandMatrix();
 
-  TOUCHSTONE2_EXPORT std::size_t numSourcePorts() const;
-  TOUCHSTONE2_EXPORT std::size_t numDestPorts() const;
+  TOUCHSTONE2_EXPORT std::size_t numSourcePorts() const;  ///< ports of the source
+  TOUCHSTONE2_EXPORT std::size_t numDestPorts() const;    ///< ports of the new File
 
   /// The source port that port `d` of the new File takes its data from; both from 0.
   /// @throws std::out_of_range  "ports" when the new File has no such port.
@@ -115,8 +115,10 @@ class FileCopier {
 
 /// All ports of `source` in a new order, with their names.
 ///
-/// @param order  entry i is the source port, from 0, that becomes port i. Repeated entries
-///               are accepted.
+/// @param new_file_name  name of the new File; nothing is opened
+/// @param source         file to copy from; it may be destroyed afterwards
+/// @param order          entry i is the source port, from 0, that becomes port i. Repeated
+///                       entries are accepted.
 /// @return a new File that the caller owns:
 ///
 ///     std::unique_ptr<touchstone2::File> copy(
@@ -137,8 +139,10 @@ TOUCHSTONE2_EXPORT File* copyFileWithReorderedPorts(const std::string& new_file_
 /// set_port_names) first. Otherwise the names given here are ignored, and the copy's comments
 /// are those of the source, unchanged.
 ///
-/// @param ports  entry d describes port d of the new File: the source port, from 0, and the
-///               new name. May be empty.
+/// @param new_file_name  name of the new File; nothing is opened
+/// @param source         file to copy from; it may be destroyed afterwards
+/// @param ports          entry d describes port d of the new File: the source port, from 0,
+///                       and the new name. May be empty.
 /// @return a new File that the caller owns:
 ///
 ///     std::unique_ptr<touchstone2::File> copy(
@@ -160,6 +164,8 @@ TOUCHSTONE2_EXPORT File* copyFileWithSubsetOfPorts(
 ///
 /// Version 1 has no triangles, so this is what V1_Writer needs for a file that has one.
 ///
+/// @param new_file_name  name of the new File; nothing is opened
+/// @param source         file to copy from; it may be destroyed afterwards
 /// @return a new File that the caller owns:
 ///
 ///     std::unique_ptr<touchstone2::File> full(

@@ -46,34 +46,61 @@ class File {
   /// @param file_name  UTF-8 path of the file to read, or just a label for diagnostics when
   ///                   the bytes come from memory. Nothing is opened here.
   TOUCHSTONE2_EXPORT explicit File(const std::string& file_name);
+
+  /// @{
+  /// A copy shares the network data and the pointer to the noise data; all else is its own.
+  /// Assigning leaves the old noise data alone, see the top of this header.
   TOUCHSTONE2_EXPORT File(const File& other);
   TOUCHSTONE2_EXPORT File& operator=(const File& other);
+  /// @}
+
+  /// @{
+  /// Takes everything over. What is left may be destroyed or assigned to, nothing else.
   TOUCHSTONE2_EXPORT File(File&& other) noexcept;
   TOUCHSTONE2_EXPORT File& operator=(File&& other) noexcept;
+  /// @}
 
   /// Releases its share of the network data; leaves the noise data alone.
   TOUCHSTONE2_EXPORT ~File();
 
+  /// As given to the constructor.
   TOUCHSTONE2_EXPORT const std::string& get_filename() const;
+
+  /// Generation of the format; `Unspecified` until a read has got that far.
   TOUCHSTONE2_EXPORT FileVersion get_version() const;
+
+  /// Unit of the frequencies of the file, noise data included; GHz when the options line names
+  /// none.
   TOUCHSTONE2_EXPORT FrequencyScaleFactor get_frequency_scale_factor() const;
+
+  /// What the matrices hold; S when the options line does not say.
   TOUCHSTONE2_EXPORT ParameterType get_parameter_type() const;
+
+  /// How the values are stored; MA when the options line does not say.
   TOUCHSTONE2_EXPORT ComplexFormat get_complex_format() const;
 
   /// The single "R" value of the options line in ohms; 0.0 before anything was read.
   TOUCHSTONE2_EXPORT double get_reference_impedance() const;
 
+  /// As a version 2 file declares it, or as the first record of a version 1 file shows it;
+  /// 0 for a version 1 file without records. After a failed read or one of the header alone it
+  /// is a claim that no data stand for.
   TOUCHSTONE2_EXPORT std::size_t get_number_of_ports() const;
+
+  /// Order in which the file lists 2-port data. The matrices are in the usual order either way.
   TOUCHSTONE2_EXPORT TwoPortDataOrder get_two_port_data_order() const;
 
+  /// @{
   /// As a version 2 file declares it, or as a version 1 read has counted it.
   TOUCHSTONE2_EXPORT std::size_t get_number_of_frequencies() const;
   TOUCHSTONE2_EXPORT std::size_t get_number_of_noise_frequencies() const;
+  /// @}
 
   /// Ohms, one entry per port. Filled from the options line when the file gives no
   /// "[Reference]"; uses_reference_impedance_per_port tells the two apart.
   TOUCHSTONE2_EXPORT const std::vector<double>& get_reference_impedance_per_port() const;
 
+  /// Which cells the file lists.
   TOUCHSTONE2_EXPORT MatrixFormat get_matrix_format() const;
 
   /// One entry per port. Filled with `SingleEnded` entries when the file gives no
@@ -96,8 +123,13 @@ class File {
   /// of this header.
   TOUCHSTONE2_EXPORT const NoiseParams* get_noise_params() const;
 
+  /// True when the file has a "[Reference]".
   TOUCHSTONE2_EXPORT bool uses_reference_impedance_per_port() const;
+
+  /// True when the file has a "[Mixed-Mode Order]".
   TOUCHSTONE2_EXPORT bool uses_mixed_mode() const;
+
+  /// True when the file has a "[Begin Information]". What stands in the section is not kept.
   TOUCHSTONE2_EXPORT bool has_information_section() const;
 
   /// True once a read has come to its end without an error. Never cleared: a failing
@@ -123,6 +155,7 @@ class File {
 
   /// Names one port; looks for the names in the comments first.
   /// @param index  port index from 0
+  /// @param name   taken as it stands; empty for no name
   /// @throws std::out_of_range  "index" when there is no such port; nothing is changed.
   TOUCHSTONE2_EXPORT void set_port_name(std::size_t index, const std::string& name);
 
@@ -151,6 +184,8 @@ class File {
 
   /// compare with file names and comments.
   TOUCHSTONE2_EXPORT bool operator==(const File& other) const;
+
+  /// The opposite of ==.
   TOUCHSTONE2_EXPORT bool operator!=(const File& other) const;
 
  private:

@@ -33,18 +33,23 @@ class TOUCHSTONE2_EXPORT NetworkParams {
   /// @param freq_scale_factor  factor from the unit of the stored frequencies to Hz
   /// @param format             complex format of the stored pairs
   NetworkParams(std::size_t ports, double freq_scale_factor, ComplexFormat format);
+
+  /// @{
+  /// A copy has data of its own.
   NetworkParams(const NetworkParams& other);
   NetworkParams& operator=(const NetworkParams& other);
+  /// @}
+
   virtual ~NetworkParams();
 
   /// True when (row, col) and (col, row) are one and the same cell.
   virtual bool isSymmetric() const = 0;
 
-  std::size_t rows() const;  ///< number of ports
-  std::size_t cols() const;  ///< number of ports
-  ComplexFormat format() const;
-  std::size_t freq_points() const;
-  double freq_scale_factor() const;
+  std::size_t rows() const;          ///< number of ports
+  std::size_t cols() const;          ///< number of ports
+  ComplexFormat format() const;      ///< complex format of the stored pairs
+  std::size_t freq_points() const;   ///< number of points
+  double freq_scale_factor() const;  ///< factor from the unit of the stored frequencies to Hz
 
   /// Frequency of a point in Hz: the stored frequency times the scale factor.
   /// @pre freq_index < freq_points(); not checked.
@@ -67,6 +72,7 @@ class TOUCHSTONE2_EXPORT NetworkParams {
   /// @throws std::length_error  when N is too great for any matrix to be stored
   std::size_t add_freq_point(double freq);
 
+  /// @{
   /// Handle to one matrix element at one frequency point.
   ///
   /// Indices count from 0. `row` is the receiving port, `col` the driven one: S21 is
@@ -77,17 +83,22 @@ class TOUCHSTONE2_EXPORT NetworkParams {
   /// @throws std::out_of_range  "freqIndex", "row" or "col", whichever is bad first.
   Cell cell(std::size_t freq_index, std::size_t row, std::size_t col);
   const Cell cell(std::size_t freq_index, std::size_t row, std::size_t col) const;
+  /// @}
 
   /// Equal port counts, factors, formats and points. Numbers are compared exactly, so a NaN
   /// makes an object unequal even to itself. The values of a point are compared whole, spare
   /// cells included; the layout itself is not looked at.
   bool operator==(const NetworkParams& other) const;
+
+  /// The opposite of ==.
   bool operator!=(const NetworkParams& other) const;
 
  protected:
+  /// @{
   /// Address of the first of the cell's two numbers; nothing is checked.
   double* get_cell_pointer(std::size_t freq_index, std::size_t row, std::size_t col);
   const double* get_cell_pointer(std::size_t freq_index, std::size_t row, std::size_t col) const;
+  /// @}
 
   /// Number of cell (row, col), both from 0, within the values of one point.
   virtual std::size_t calculate_index(std::size_t row, std::size_t col) const = 0;
@@ -135,9 +146,12 @@ class TOUCHSTONE2_EXPORT NetworkParams::Cell {
 /// Every cell stored, row by row.
 class TOUCHSTONE2_EXPORT FullNetworkParams : public NetworkParams {
  public:
+  /// @{
+  /// As those of NetworkParams.
   FullNetworkParams(std::size_t ports, double freq_scale_factor, ComplexFormat format);
   FullNetworkParams(const FullNetworkParams& other);
   FullNetworkParams& operator=(const FullNetworkParams& other);
+  /// @}
   ~FullNetworkParams() override;
 
   bool isSymmetric() const override;
@@ -149,9 +163,12 @@ class TOUCHSTONE2_EXPORT FullNetworkParams : public NetworkParams {
 /// One triangle stored, row by row; (row, col) and (col, row) give the same cell.
 class TOUCHSTONE2_EXPORT SymmetricNetworkParams : public NetworkParams {
  public:
+  /// @{
+  /// As those of NetworkParams.
   SymmetricNetworkParams(std::size_t ports, double freq_scale_factor, ComplexFormat format);
   SymmetricNetworkParams(const SymmetricNetworkParams& other);
   SymmetricNetworkParams& operator=(const SymmetricNetworkParams& other);
+  /// @}
   ~SymmetricNetworkParams() override;
 
   bool isSymmetric() const override;

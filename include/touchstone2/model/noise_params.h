@@ -27,8 +27,8 @@ class TOUCHSTONE2_EXPORT NoiseParams {
   void add_freq_point(double freq, double min_noise_db, double reflection_magnitude,
                       double reflection_phase, double impedance);
 
-  std::size_t freq_points() const;  ///< number of rows
-  double get_freq_scale_factor() const;
+  std::size_t freq_points() const;       ///< number of rows
+  double get_freq_scale_factor() const;  ///< factor from the unit of the frequencies to Hz
 
   double get_freq(std::size_t index) const;                  ///< Hz
   double get_unscaled_freq(std::size_t index) const;         ///< the file's unit
@@ -43,6 +43,8 @@ class TOUCHSTONE2_EXPORT NoiseParams {
 
   /// Equal factors and equal rows, every number compared exactly (a NaN equals nothing).
   bool operator==(const NoiseParams& other) const;
+
+  /// The opposite of ==.
   bool operator!=(const NoiseParams& other) const;
 
  private:

@@ -31,8 +31,13 @@ class CommentProcessor {
   ///                         no name is stored at all
   TOUCHSTONE2_EXPORT CommentProcessor(const std::vector<std::string>& comments,
                                       std::size_t number_of_ports);
+
+  /// @{
+  /// A copy refers to the same comment lines.
   TOUCHSTONE2_EXPORT CommentProcessor(const CommentProcessor& other);
   TOUCHSTONE2_EXPORT CommentProcessor& operator=(const CommentProcessor& other);
+  /// @}
+
   TOUCHSTONE2_EXPORT ~CommentProcessor();
 
   /// One entry per port, empty for a port that no line names. The list is moved out: a

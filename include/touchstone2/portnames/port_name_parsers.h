@@ -34,8 +34,13 @@ class PortNameParser {
   /// @param numberOfPorts  greatest port number that counts; 0 for no limit
   TOUCHSTONE2_EXPORT PortNameParser(const std::vector<std::string>& tokens,
                                     std::size_t numberOfPorts);
+
+  /// @{
+  /// A copy refers to the same words.
   TOUCHSTONE2_EXPORT PortNameParser(const PortNameParser& other);
   TOUCHSTONE2_EXPORT PortNameParser& operator=(const PortNameParser& other);
+  /// @}
+
   TOUCHSTONE2_EXPORT ~PortNameParser();
 
   /// The name found; may be empty, also on a line that names a port.
@@ -52,17 +57,18 @@ class PortNameParser {
   /// True when the number is not 0 and within the limit.
   TOUCHSTONE2_EXPORT bool portNumberIsValid() const;
 
-  const std::vector<std::string>* tokens_;
-  std::size_t numberOfPorts_;
-  bool valid_ = false;  // the line follows the convention, whatever its port number
-  std::string portName_;
-  std::size_t portNumber_ = 0;
+  const std::vector<std::string>* tokens_;  ///< the caller's words
+  std::size_t numberOfPorts_;               ///< greatest port number that counts; 0 for no limit
+  bool valid_ = false;          ///< the line follows the convention, whatever its port number
+  std::string portName_;        ///< the name found
+  std::size_t portNumber_ = 0;  ///< from 1; 0 for none
 };
 
 /// `Port 2 = RF Out`. The name is the fourth word, empty if there is none; a fifth one is
 /// appended with "_" unless it repeats the fourth. Further words do not count.
 class PortNameParser1 : public PortNameParser {
  public:
+  /// Looks at one line; the parameters are those of PortNameParser.
   TOUCHSTONE2_EXPORT PortNameParser1(const std::vector<std::string>& tokens,
                                      std::size_t numberOfPorts);
 
@@ -77,6 +83,7 @@ class PortNameParser1 : public PortNameParser {
 /// empty. File::update_leading_comments writes its lines this way.
 class PortNameParser2 : public PortNameParser {
  public:
+  /// Looks at one line; the parameters are those of PortNameParser.
   TOUCHSTONE2_EXPORT PortNameParser2(const std::vector<std::string>& tokens,
                                      std::size_t numberOfPorts);
 
@@ -90,6 +97,7 @@ class PortNameParser2 : public PortNameParser {
 /// count. The name is the fourth word alone, empty if there is none.
 class PortNameParser3 : public PortNameParser {
  public:
+  /// Looks at one line; the parameters are those of PortNameParser.
   TOUCHSTONE2_EXPORT PortNameParser3(const std::vector<std::string>& tokens,
                                      std::size_t numberOfPorts);
 
@@ -104,6 +112,7 @@ class PortNameParser3 : public PortNameParser {
 /// before the first "::" as a whole, then, if anything follows the "::", "_" and that.
 class PortNameParser4 : public PortNameParser {
  public:
+  /// Looks at one line; the parameters are those of PortNameParser.
   TOUCHSTONE2_EXPORT PortNameParser4(const std::vector<std::string>& tokens,
                                      std::size_t numberOfPorts);
 
@@ -116,6 +125,7 @@ class PortNameParser4 : public PortNameParser {
 /// further words, joined with "_"; there must be one.
 class PortNameParser5 : public PortNameParser {
  public:
+  /// Looks at one line; the parameters are those of PortNameParser.
   TOUCHSTONE2_EXPORT PortNameParser5(const std::vector<std::string>& tokens,
                                      std::size_t numberOfPorts);
 
@@ -128,6 +138,7 @@ class PortNameParser5 : public PortNameParser {
 /// joined with "_"; there must be one.
 class PortNameParser6 : public PortNameParser {
  public:
+  /// Looks at one line; the parameters are those of PortNameParser.
   TOUCHSTONE2_EXPORT PortNameParser6(const std::vector<std::string>& tokens,
                                      std::size_t numberOfPorts);
 

@@ -23,10 +23,15 @@ class StringTokenizer {
   /// @param text  not copied: it must stay as it is, and alive, as long as the tokenizer and
   ///              its copies
   TOUCHSTONE2_EXPORT explicit StringTokenizer(const std::string& text);
+
+  /// @{
+  /// A copy refers to the same text.
   TOUCHSTONE2_EXPORT StringTokenizer(const StringTokenizer& other);
   TOUCHSTONE2_EXPORT StringTokenizer(StringTokenizer&& other) noexcept;
   TOUCHSTONE2_EXPORT StringTokenizer& operator=(const StringTokenizer& other);
   TOUCHSTONE2_EXPORT StringTokenizer& operator=(StringTokenizer&& other) noexcept;
+  /// @}
+
   TOUCHSTONE2_EXPORT ~StringTokenizer();
 
   /// The words in the order of the text, none of them empty. They are moved out: a second

@@ -31,9 +31,13 @@ class File;
 /// what(). An exception that a handler throws ends the read and reaches the reader's caller,
 /// but for one: a ParserError thrown from report_warning is reported like the reader's own.
 struct TOUCHSTONE2_EXPORT MessageHandler {
+  /// @{
+  /// Nothing is done: the interface holds no data.
   MessageHandler();
   MessageHandler(const MessageHandler&);
   MessageHandler& operator=(const MessageHandler&);
+  /// @}
+
   virtual ~MessageHandler();
 
   /// Called once, after the file was released and before the read returns.

@@ -12,7 +12,10 @@ namespace touchstone2 {
 /// The square root of n rounded to the nearest whole number; n need not be a square.
 TOUCHSTONE2_EXPORT std::size_t find_sqrt(std::size_t n);
 
+/// True for 0, 2, 4 and so on.
 TOUCHSTONE2_EXPORT bool is_even(std::size_t n);
+
+/// True for 1, 3, 5 and so on.
 TOUCHSTONE2_EXPORT bool is_odd(std::size_t n);
 
 }  // namespace touchstone2

@@ -22,10 +22,10 @@ struct Token {
     end_of_file = 7,   ///< text "\n" when the last byte is a line end, else empty
   };
 
-  Type type = Type::whitespace;
-  std::size_t line = 0;    ///< line of the first byte, from 1; 0 for no position
-  std::size_t column = 0;  ///< column of the first byte, from 1, one column a byte
-  std::string text;
+  Type type = Type::whitespace;  ///< tells how to read the text
+  std::size_t line = 0;          ///< line of the first byte, from 1; 0 for no position
+  std::size_t column = 0;        ///< column of the first byte, from 1, one column a byte
+  std::string text;              ///< see Type; lower case but for comments
 };
 
 }  // namespace touchstone2

@@ -23,6 +23,8 @@ class TOUCHSTONE2_EXPORT V1_Writer : public Writer {
  public:
   /// @throws std::logic_error  "touchstone2::File is not valid"
   explicit V1_Writer(File& file);
+
+  /// A copy refers to the same File.
   V1_Writer(const V1_Writer& other);
   ~V1_Writer() override;
 

@@ -21,6 +21,8 @@ class TOUCHSTONE2_EXPORT V2_Writer : public Writer {
  public:
   /// @throws std::logic_error  "touchstone2::File is not valid"
   explicit V2_Writer(File& file);
+
+  /// A copy refers to the same File.
   V2_Writer(const V2_Writer& other);
   ~V2_Writer() override;
 

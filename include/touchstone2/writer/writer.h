@@ -34,6 +34,8 @@ class TOUCHSTONE2_EXPORT Writer {
  public:
   /// @throws std::logic_error  "touchstone2::File is not valid"
   explicit Writer(File& file);
+
+  /// A copy refers to the same File.
   Writer(const Writer& other);
   Writer& operator=(const Writer&) = delete;
   virtual ~Writer();
@@ -64,6 +66,7 @@ class TOUCHSTONE2_EXPORT Writer {
   void write_options_line(std::ostream& os) const;
 
   /// The network data, one block of lines per frequency point; nothing without points.
+  /// @param os                     the stream
   /// @param write_header           name the columns in a comment first
   /// @param column_major_two_port  print N21 before N12 when there are two ports
   /// @param version_1_layout       with three ports or more, no line holds more than four
@@ -72,9 +75,11 @@ class TOUCHSTONE2_EXPORT Writer {
                             bool version_1_layout) const;
 
   /// The noise data, one line per row; nothing without rows.
+  /// @param os         the stream
   /// @param normalize  print the resistances divided by the reference impedance
   void write_noise_params(std::ostream& os, bool normalize) const;
 
+  /// The File that is written.
   const File& file() const { return file_; }
 
  private:
