@@ -10,6 +10,7 @@
 #   libcxx   what the tests with clang and libc++ need
 #   windows  what builds for 64-bit Windows and runs the tests under wine
 #   abi      what compares binary interfaces
+#   docs     what makes the site of the documentation
 set -euo pipefail
 
 packages=(
@@ -21,6 +22,7 @@ tests=(
     googletest # sources; every build compiles its own
     git python3 util-linux
     python3-jsonschema # validates the tool's JSON
+    vim # whose list of errors the documentation promises to work
 )
 add_part() {
     case $1 in
@@ -43,6 +45,12 @@ add_part() {
             )
             ;;
         abi) packages+=(abigail-tools) ;;
+        docs)
+            packages+=(
+                doxygen graphviz python3
+                python3-sphinx python3-myst-parser python3-breathe furo
+            )
+            ;;
         *)
             echo "setup: what is '$1'? See the head of this script." >&2
             exit 2
