@@ -21,5 +21,5 @@ python3 scripts/docs_pages.py \
     --tool "$build/tool/tools/touchstone2/touchstone2" --xml "$build/api/xml" "$build/pages"
 rm -rf "$build/site"
 TOUCHSTONE2_VERSION=${version##* } TOUCHSTONE2_API_XML=$build/api/xml \
-    sphinx-build -q -W --keep-going -j auto -d "$build/cache" -c docs/site "$build/pages" "$build/site"
+    sphinx-build -q -W --keep-going -j auto -d "$build/cache" "$build/pages" "$build/site"
 echo "docs: $build/site/index.html"

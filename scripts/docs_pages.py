@@ -30,6 +30,7 @@ FIRST_PAGE = DOCS / "README.md"
 LINK = re.compile(r"(?<!!)\[([^\]]*)\]\(([^)\s#]+)(#[^)\s]*)?\)")
 PICTURE = re.compile(r"<!-- picture: (\S+) -->\n```text\n.*?\n```\n", re.DOTALL)
 DIRECTIVE = re.compile(r"<!--.*?-->\n")
+CODE = re.compile(r"::|//|[;{]$", re.MULTILINE)
 
 
 def toctree(entries, caption=None, hidden=True):
@@ -64,6 +65,12 @@ class Site:
         file = self.output / (place + ".md")
         file.parent.mkdir(parents=True, exist_ok=True)
         file.write_text(text, encoding="utf-8")
+
+    def write_settings(self):
+        static = self.output / "_static"
+        static.mkdir()
+        shutil.copyfile(DOCS / "site" / "site.css", static / "site.css")
+        shutil.copyfile(DOCS / "site" / "conf.py", self.output / "conf.py")
 
     def page(self, file):
         """The text of a page with its links and pictures made those of the site."""
@@ -164,10 +171,27 @@ def first_comment(header):
 
     def fenced(found):
         body = re.sub(r"^    ", "", found.group(0), flags=re.MULTILINE).strip("\n")
-        language = "cpp" if re.search(r"[;{#]", body) else "text"
+        language = "cpp" if CODE.search(body) else "text"
         return f"\n```{language}\n{body}\n```\n"
 
     return code.sub(fenced, text)
+
+
+def dissolve_groups(definition):
+    """Puts the members that share a comment among the others, in the header's order."""
+    sections = {s.get("kind"): s for s in definition.findall("sectiondef")}
+    for group in definition.findall("sectiondef[@kind='user-defined']"):
+        for member in group.findall("memberdef"):
+            kind = f"{member.get('prot')}-func"
+            if kind not in sections:
+                sections[kind] = ElementTree.SubElement(definition, "sectiondef", kind=kind)
+            sections[kind].append(member)
+        definition.remove(group)
+    for section in definition.findall("sectiondef"):
+        members = section.findall("memberdef")
+        for member in members:
+            section.remove(member)
+        section.extend(sorted(members, key=lambda m: int(m.find("location").get("line"))))
 
 
 class Reference:
@@ -182,8 +206,13 @@ class Reference:
         for compound in index.findall("compound"):
             kind = compound.get("kind")
             if kind in ("class", "struct", "file", "namespace"):
-                tree = ElementTree.parse(folder / (compound.get("refid") + ".xml"))
-                self.add(kind, tree.getroot().find("compounddef"))
+                file = folder / (compound.get("refid") + ".xml")
+                tree = ElementTree.parse(file)
+                definition = tree.getroot().find("compounddef")
+                if kind in ("class", "struct"):
+                    dissolve_groups(definition)
+                    tree.write(file, encoding="utf-8")
+                self.add(kind, definition)
 
     def add(self, kind, compound):
         if kind in ("class", "struct"):
@@ -196,7 +225,9 @@ class Reference:
             name = member.findtext("name")
             if directive is None or (kind == "file") != (directive == "doxygendefine"):
                 continue
-            if member.findtext("briefdescription/para") is None:
+            if member.find("briefdescription/para") is None and (
+                member.find("detaileddescription/para") is None
+            ):
                 continue
             if kind == "namespace":
                 name = f"{compound.findtext('compoundname')}::{name}"
@@ -251,11 +282,9 @@ def main():
     parser.add_argument("output", type=pathlib.Path)
     arguments = parser.parse_args()
     shutil.rmtree(arguments.output, ignore_errors=True)
-    static = arguments.output / "_static"
-    static.mkdir(parents=True)
-    shutil.copyfile(DOCS / "site" / "site.css", static / "site.css")
     site = Site(arguments.output)
-    site.extra.mkdir()
+    site.extra.mkdir(parents=True)
+    site.write_settings()
     site.write_pages()
     write_commands(site, arguments.tool)
     write_reference(site, arguments.xml)

@@ -16,8 +16,8 @@
 #elif defined(_WIN32)
 #define TOUCHSTONE2_EXPORT __declspec(dllimport)
 #else
-// The mark stands in callers' code as well: it keeps the type of an exception that the
-// library throws and its caller catches one and the same, even if callers hide theirs.
+/// The mark stands in callers' code as well: it keeps the type of an exception that the
+/// library throws and its caller catches one and the same, even if callers hide theirs.
 #define TOUCHSTONE2_EXPORT __attribute__((visibility("default")))
 #endif
 

@@ -9,6 +9,8 @@
 ///     portnames/  the comment conventions that name ports; File's members use them
 ///     copier/  a new File with a subset or a new order of the ports
 ///
+/// S21 of the first point of a file:
+///
 ///     #include <touchstone2/touchstone2.h>
 ///
 ///     touchstone2::File file("filter.s2p");
