@@ -1,6 +1,7 @@
 """The site's settings. Its pages are laid out by scripts/docs_pages.py."""
 
 import os
+import pathlib
 
 project = "touchstone2"
 html_title = f"touchstone2 {os.environ['TOUCHSTONE2_VERSION']}"
@@ -26,3 +27,22 @@ nitpicky = False
 highlight_language = "none"
 pygments_style = "friendly"
 pygments_dark_style = "native"
+
+
+def join_scripts(app, exception):
+    """Puts the theme's script and the one it imports into one file.
+
+    Debian packages them as modules, which browsers do not load from the file system.
+    """
+    if exception:
+        return
+    scripts = pathlib.Path(app.outdir) / "_static" / "scripts"
+    module = 'import Gumshoe from "./gumshoe-patched.js";\n'
+    text = (scripts / "furo.js").read_text(encoding="utf-8")
+    if text.startswith(module):
+        imported = (scripts / "gumshoe-patched.js").read_text(encoding="utf-8")
+        (scripts / "furo.js").write_text(imported + text[len(module) :], encoding="utf-8")
+
+
+def setup(app):
+    app.connect("build-finished", join_scripts)
