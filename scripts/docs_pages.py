@@ -6,8 +6,8 @@
 The pages are those of docs/ and the few Markdown files outside that docs/README.md,
 the site's first page, links to. Added are a page for every command of the tool, made
 of its --help, and one for every public header, made of its first comment and the
-names in Doxygen's XML. Navigation follows the sections of docs/README.md; folders of
-docs/ that have a README.md of their own come behind.
+names in Doxygen's XML. Navigation follows the sections of docs/README.md; pages that it
+does not list come behind. The README.md of a folder of docs/ leads to the folder's pages.
 
 Links between pages stay links, links to headers lead to the reference, and links to
 other files of the tree to a copy of the file.
@@ -110,6 +110,14 @@ class Site:
         entries = [f.stem for f in sorted(file.parent.glob("*.md")) if f != file]
         return toctree(entries) if entries else ""
 
+    def pages_that_nothing_leads_to(self, listed):
+        """Pages of docs/ that neither the first page nor a README.md beside them lists."""
+        for file in sorted(DOCS.rglob("*.md")):
+            guide = file.parent / "README.md"
+            below_guide = guide.exists() and guide not in (file, FIRST_PAGE)
+            if file != FIRST_PAGE and not below_guide and self.places[file] not in listed:
+                yield file
+
     def navigation(self):
         """One group for each section of the first page, and what this script has made."""
         trees = []
@@ -120,9 +128,8 @@ class Site:
             entries = [self.places[goal] for goal in goals]
             trees.append(toctree(entries, section.splitlines()[0]))
             listed.update(entries)
-        folders = [self.places[file] for file in sorted(DOCS.glob("*/README.md"))]
-        reference = [place for place in folders if place not in listed]
-        trees.append(toctree([*reference, "commands/index", "api/index"], "Reference"))
+        others = [self.places[file] for file in self.pages_that_nothing_leads_to(listed)]
+        trees.append(toctree([*others, "commands/index", "api/index"], "Reference"))
         return "".join(trees)
 
 
@@ -179,6 +186,8 @@ def first_comment(header):
 
 def dissolve_groups(definition):
     """Puts the members that share a comment among the others, in the header's order."""
+    if definition.get("kind") not in ("class", "struct"):
+        return
     sections = {s.get("kind"): s for s in definition.findall("sectiondef")}
     for group in definition.findall("sectiondef[@kind='user-defined']"):
         for member in group.findall("memberdef"):
@@ -192,6 +201,31 @@ def dissolve_groups(definition):
         for member in members:
             section.remove(member)
         section.extend(sorted(members, key=lambda m: int(m.find("location").get("line"))))
+
+
+def fixed_messages():
+    """The sentence of every code, by the name of its enumerator."""
+    text = (ROOT / "src" / "reader" / "error_messages.cpp").read_text(encoding="utf-8")
+    rows = re.findall(r'\{ErrorType::(\w+),\s*((?:"[^"\n]*"\s*)+)\}', text)
+    return {name: "".join(re.findall(r'"([^"]*)"', parts)) for name, parts in rows}
+
+
+def describe_enumerators(definition):
+    """Gives every enumerator its number, and a diagnostic's code its sentence."""
+    messages = fixed_messages()
+    for enum in definition.iter("memberdef"):
+        for value in enum.findall("enumvalue"):
+            name = value.findtext("name")
+            texts = [value.findtext("initializer").removeprefix("= ")]
+            if enum.findtext("name") == "ErrorType":
+                texts.append(messages[name])
+            brief = value.find("briefdescription")
+            comment = brief.find("para")
+            if comment is None:
+                comment = ElementTree.SubElement(brief, "para")
+            elif comment.text:
+                texts.append(comment.text)
+            comment.text = "; ".join(texts)
 
 
 class Reference:
@@ -209,9 +243,9 @@ class Reference:
                 file = folder / (compound.get("refid") + ".xml")
                 tree = ElementTree.parse(file)
                 definition = tree.getroot().find("compounddef")
-                if kind in ("class", "struct"):
-                    dissolve_groups(definition)
-                    tree.write(file, encoding="utf-8")
+                dissolve_groups(definition)
+                describe_enumerators(definition)
+                tree.write(file, encoding="utf-8")
                 self.add(kind, definition)
 
     def add(self, kind, compound):
