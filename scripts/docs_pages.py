@@ -157,7 +157,8 @@ def write_commands(site, tool):
     rows = "".join(f"| [{name}]({name}.md) | {does} |\n" for name, does in commands)
     site.write(
         "commands/index",
-        "# Commands of the tool\n\nWhat `touchstone2 COMMAND --help` prints, one page a command.\n\n"
+        "# Commands of the tool\n\n"
+        "What `touchstone2 COMMAND --help` prints, one page a command.\n\n"
         f"| command | what it does |\n|---|---|\n{rows}\n```text\n{overview}```\n"
         + toctree([name for name, _ in commands]),
     )

@@ -79,6 +79,7 @@ class Installation:
             "LD_LIBRARY_PATH": str(libraries),
             "PKG_CONFIG_PATH": str(libraries / "pkgconfig"),
             "CMAKE_PREFIX_PATH": str(prefix),
+            "CMAKE_GENERATOR": "Ninja",
             "HOME": str(prefix),
             "LC_ALL": "C",
             "GIT_CONFIG_NOSYSTEM": "1",
