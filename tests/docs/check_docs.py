@@ -11,14 +11,14 @@ temporary prefix. Without PAGE all pages are checked. What holds for a page:
 - A path of this tree in `code` exists.
 - A block of `console` is run: lines that start with "$ " are commands ("> " goes on
   with one), the others are what they print. A line "..." stands for any lines, "..."
-  behind a text for the rest of the line. A page's blocks are one session in bash, in a
-  folder with a copy of the examples; a command that fails must print something.
+  behind a text for the rest of the line. The commands of a page share a folder with a
+  copy of the examples, and where "cd" has led; one that fails must print something.
 - A block of `cpp` with a main function compiles as a program, any other one inside a
   function. A block of `json` is JSON.
 - In a block of `sh`, which is not run, scripts, presets and the tool's options exist.
 
 An HTML comment in front of a block says more: "file: NAME" saves the block in that
-session's folder, for the commands behind it; "skip: REASON" leaves it out.
+folder, for the commands behind it; "skip: REASON" leaves it out.
 
 --update writes what the commands print into the pages; read the difference.
 """
@@ -33,7 +33,7 @@ import sys
 import tempfile
 
 from markdown import Page
-from session import Session, matches, steps_of
+from shell import Shell, matches, steps_of
 
 ROOT = pathlib.Path(__file__).resolve().parents[2]
 TOP_FOLDERS = "bench|cmake|docs|examples|fuzz|include|scripts|src|tests|tools"
@@ -97,7 +97,7 @@ class Installation:
             text=True,
             check=False,
         )
-        return done.stdout if done.returncode == 0 else None
+        return done.stdout if f"Usage: touchstone2 {command} " in done.stdout else None
 
 
 class Checker:
@@ -119,9 +119,9 @@ class Checker:
         self.check_paths(page)
         name = str(path.relative_to(ROOT)).replace(os.sep, "-")
         environment = self.installation.environment
-        session = Session(self.folder / name, ROOT / "examples", environment)
+        shell = Shell(self.folder / name, ROOT / "examples", environment)
         for block in page.blocks:
-            self.check_block(page, block, session)
+            self.check_block(page, block, shell)
 
     def check_links(self, page):
         for line, target in page.links():
@@ -143,15 +143,15 @@ class Checker:
             if not (ROOT / text).exists():
                 self.fault(page, line, f"there is no {text}")
 
-    def check_block(self, page, block, session):
+    def check_block(self, page, block, shell):
         kind, value = block.directive
         if kind == "skip":
             return
         if kind == "file":
-            session.save(value, block.text)
+            shell.save(value, block.text)
         steps = steps_of(block) if block.language == "console" else None
         if steps is not None:
-            self.run_steps(page, block, steps, session)
+            self.run_steps(page, block, steps, shell)
         elif block.language == "console":
             self.fault(page, block.line, "a console block begins with a prompt")
         elif block.language == "cpp":
@@ -161,12 +161,12 @@ class Checker:
         elif block.language == "sh":
             self.check_words(page, block)
 
-    def run_steps(self, page, block, steps, session):
+    def run_steps(self, page, block, steps, shell):
         for step in steps:
             self.counts["commands"] += 1
-            printed = session.run(step.command)
-            if session.status != 0 and not printed:
-                self.fault(page, step.line, f"fails silently ({session.status}): {step.command}")
+            printed = shell.run(step.command)
+            if shell.status != 0 and not printed:
+                self.fault(page, step.line, f"fails silently ({shell.status}): {step.command}")
             if matches(step.shown, printed):
                 continue
             if self.update:
@@ -251,7 +251,7 @@ def main():
     with tempfile.TemporaryDirectory() as name:
         folder = pathlib.Path(name).resolve()
         installation = Installation(arguments.build, folder / "prefix")
-        checker = Checker(installation, folder / "sessions", arguments.update)
+        checker = Checker(installation, folder / "shells", arguments.update)
         for page in [pathlib.Path(p).resolve() for p in arguments.pages] or pages():
             checker.check(page)
     for fault in checker.faults:

@@ -111,6 +111,8 @@ class Editors:
             cwd=self.folder,
             env={"HOME": str(self.folder), "PATH": path, "TERM": "dumb", "SHELL": "/bin/sh"},
             stdin=subprocess.DEVNULL,
+            stdout=subprocess.DEVNULL,
+            stderr=subprocess.DEVNULL,
             timeout=60,
             check=False,
         )

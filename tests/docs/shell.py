@@ -48,7 +48,7 @@ def matches(shown, printed):
     return re.fullmatch(pattern, "".join(line + "\n" for line in printed)) is not None
 
 
-class Session:
+class Shell:
     """A shell in a new folder that holds a copy of the examples, and what it remembers."""
 
     def __init__(self, folder, examples, environment):
