@@ -11,6 +11,7 @@
 #include <vector>
 
 #include <CLI/CLI.hpp>
+#include <nlohmann/json.hpp>
 
 #include "commands/check.h"
 #include "commands/convert.h"
@@ -20,6 +21,7 @@
 #include "commands/ports.h"
 #include "commands/reorder.h"
 #include "commands/subset.h"
+#include "json/command_description.h"
 #include "terminal/console.h"
 
 namespace {
@@ -35,6 +37,9 @@ constexpr const char* kFooter = R"(Examples:
   touchstone2 ports coupler.s4p --set 1=in -o named.s4p
   touchstone2 convert amplifier.s2p --to v2 -o amplifier.ts
   touchstone2 check --help)";
+
+// Thrown, as the parser's own CallForVersion is, so that nothing else of the line is looked at.
+struct CallForDescription {};
 
 std::string usage_text(const CLI::App& app, const CLI::ParseError& error) {
   if (!app.get_subcommands().empty()) return error.what();
@@ -66,6 +71,7 @@ int run(std::vector<std::string> arguments) {
   app.footer(kFooter);
   app.set_version_flag("--version", "touchstone2 " TOUCHSTONE2_VERSION_STRING,
                        "Print the version and exit");
+  app.add_flag_callback("--describe-commands", [] { throw CallForDescription{}; })->group("");
   app.require_subcommand(1);
   tool::add_check_command(app, exit_code);
   tool::add_explain_command(app, exit_code);
@@ -81,6 +87,8 @@ int run(std::vector<std::string> arguments) {
     tool::write_output(app.help());
   } catch (const CLI::CallForVersion& version) {
     tool::write_output(std::string(version.what()) + "\n");
+  } catch (const CallForDescription&) {
+    tool::write_output(tool::json_line(tool::commands_to_json(app)));
   } catch (const CLI::ParseError& error) {
     return usage_error(app, error);
   }

@@ -59,7 +59,7 @@ Examples:
   touchstone2 convert amplifier.s2p --to v2 -o amplifier.ts
   touchstone2 convert connector.s4p --to v1 --precision 6 -o -)");
   command->add_option("FILE", options->path, "A file, or - for standard input")->required();
-  command->add_option("--to", options->to, "The version to write: v1 or v2")->type_name("VERSION");
+  command->add_option("--to", options->to, "The version to write")->type_name("v1|v2");
   add_write_options(*command, options->write)->required();
   command->callback([options, &exit_code] { exit_code = convert(*options); });
 }

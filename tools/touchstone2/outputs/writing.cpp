@@ -78,7 +78,7 @@ CLI::Option* add_write_options(CLI::App& command, WriteOptions& options) {
   command
       .add_option("--precision", options.precision,
                   "Significant digits: auto, or a number from 1 to 17")
-      ->type_name("DIGITS");
+      ->type_name("auto|DIGITS");
   add_plain_option(command);
   return path;
 }
