@@ -66,3 +66,20 @@ if(TARGET touchstone2_tool)
   set_target_properties(touchstone2_tool PROPERTIES INSTALL_RPATH "${tool_rpath}")
   install(TARGETS touchstone2_tool RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}")
 endif()
+
+# Files as they are committed: a build for another machine could not run the tool to make them.
+if(TARGET touchstone2_tool AND UNIX)
+  set(TOUCHSTONE2_ZSH_COMPLETIONS "${CMAKE_INSTALL_DATADIR}/zsh/site-functions" CACHE STRING
+      "Where the completion for zsh is installed")
+  mark_as_advanced(TOUCHSTONE2_ZSH_COMPLETIONS)
+  set(completions "${PROJECT_SOURCE_DIR}/tools/touchstone2/completions")
+  install(DIRECTORY "${PROJECT_SOURCE_DIR}/tools/touchstone2/manual/"
+    DESTINATION "${CMAKE_INSTALL_MANDIR}/man1"
+    FILES_MATCHING PATTERN "*.1")
+  install(FILES "${completions}/touchstone2"
+    DESTINATION "${CMAKE_INSTALL_DATADIR}/bash-completion/completions")
+  install(FILES "${completions}/_touchstone2"
+    DESTINATION "${TOUCHSTONE2_ZSH_COMPLETIONS}")
+  install(FILES "${completions}/touchstone2.fish"
+    DESTINATION "${CMAKE_INSTALL_DATADIR}/fish/vendor_completions.d")
+endif()

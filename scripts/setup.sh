@@ -23,6 +23,7 @@ tests=(
     git python3 util-linux
     python3-jsonschema # validates the tool's JSON
     vim # whose list of errors the documentation promises to work
+    mandoc zsh fish # read the manual and the completions
 )
 add_part() {
     case $1 in
