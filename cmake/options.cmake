@@ -9,6 +9,7 @@ set(TOUCHSTONE2_WUX_LIBRARY "" CACHE FILEPATH
     "The host's script runtime; without it the module is built for the tests only")
 option(TOUCHSTONE2_EXAMPLES "Build the example programs" ${PROJECT_IS_TOP_LEVEL})
 option(TOUCHSTONE2_INSTALL "Provide the install rules" ${PROJECT_IS_TOP_LEVEL})
+option(TOUCHSTONE2_DEBIAN "Install and pack as Debian packages want it" OFF)
 option(TOUCHSTONE2_BENCH "Build the benchmarks" OFF)
 option(TOUCHSTONE2_FUZZ "Build the fuzz targets" OFF)
 option(TOUCHSTONE2_WERROR "Treat warnings as errors" OFF)

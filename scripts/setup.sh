@@ -11,6 +11,7 @@
 #   windows  what builds for 64-bit Windows and runs the tests under wine
 #   abi      what compares binary interfaces
 #   docs     what makes the site of the documentation
+#   package  what makes and looks at packages
 set -euo pipefail
 
 packages=(
@@ -52,6 +53,7 @@ add_part() {
                 python3-sphinx python3-myst-parser python3-breathe furo
             )
             ;;
+        package) packages+=(dpkg-dev git gzip lintian mmdebstrap) ;;
         *)
             echo "setup: what is '$1'? See the head of this script." >&2
             exit 2
