@@ -53,7 +53,7 @@ add_part() {
                 python3-sphinx python3-myst-parser python3-breathe furo
             )
             ;;
-        package) packages+=(dpkg-dev git gzip lintian mmdebstrap) ;;
+        package) packages+=(dpkg-dev git gzip lintian mmdebstrap util-linux) ;;
         *)
             echo "setup: what is '$1'? See the head of this script." >&2
             exit 2

@@ -32,13 +32,15 @@ apt_settings() {
 }
 
 make_base() {
-    local release sources=() settings=()
+    local release sources=() settings=() mode=root
+    # Where mounting is forbidden, packages are set up from outside.
+    unshare --mount true 2>/dev/null || mode=chrootless
     release=$(. /etc/os-release && echo "$VERSION_CODENAME")
     # Other makers' packages are not wanted, which a line with this release's name tells apart.
     mapfile -t sources < <(grep -slE "^Suites:.*\<$release\>|^deb .*\<$release\>" \
         /etc/apt/sources.list /etc/apt/sources.list.d/*.list /etc/apt/sources.list.d/*.sources)
     mapfile -t settings < <(apt_settings)
-    mmdebstrap --quiet --variant=minbase --mode=root --include=g++,cmake,make,pkg-config \
+    mmdebstrap --quiet --variant=minbase --mode=$mode --include=g++,cmake,make,pkg-config \
         "${settings[@]}" "$release" "$place/part.tar" "${sources[@]}" </dev/null
     mv "$place/part.tar" "$base"
 }
