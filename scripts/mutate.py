@@ -208,6 +208,11 @@ def show(change):
     return f"{change.file}:{change.line}: {change.kind}\n  - {change.before}\n  + {change.after.strip()}"
 
 
+def tell_progress(number, count, noticed_by):
+    """On standard error; the results go to standard output."""
+    print(f"{number} of {count}: {noticed_by or 'not noticed'}", file=sys.stderr, flush=True)
+
+
 def main():
     parser = argparse.ArgumentParser(
         description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter
@@ -233,8 +238,9 @@ def main():
     with tempfile.TemporaryDirectory(prefix="touchstone2-mutate-") as folder:
         workshop = Workshop(pathlib.Path(folder), arguments.jobs)
         workshop.prepare()
-        for change in changes:
+        for number, change in enumerate(changes, start=1):
             noticed_by = workshop.judge(change)
+            tell_progress(number, len(changes), noticed_by)
             outcomes[noticed_by] += 1
             if noticed_by is None:
                 print("not noticed: " + show(change), flush=True)
