@@ -29,15 +29,24 @@ check_preset() {
     ctest --preset "$1" -j "$(nproc)"
 }
 
+# Only the tests that have threads.
+check_threads() {
+    cmake --preset tsan
+    cmake --build --preset tsan --target touchstone2_robustness_tests
+    ctest --preset tsan -R '^Threads' --no-tests=error
+}
+
 # No "|| ...", "if" or "&&" around a step: bash would then ignore failures inside.
-step "setup" scripts/setup.sh check libcxx windows abi
+step "setup" scripts/setup.sh check libcxx windows abi docs
 step "format" scripts/format.sh --check
 step "layers" python3 scripts/check_layers.py
 step "gcc, release" check_preset release
-step "clang, release" check_preset clang
 step "clang with libc++" check_preset libcxx
 step "windows, under wine" scripts/test-windows.sh
 step "gcc, address and undefined behaviour sanitizers" check_preset asan
+step "threads, thread sanitizer" check_threads
+step "fuzz targets, a fixed number of runs" scripts/fuzz.sh --short
 step "clang-tidy" scripts/tidy.sh
 step "instructions per byte" scripts/check_instructions.sh
 step "binary interface" scripts/abi.sh
+step "site of the documentation" scripts/docs.sh
