@@ -109,7 +109,8 @@ def footer_sections(footer):
         elif block[0].startswith(EXIT_STATUS):
             sections["EXIT STATUS"] += exit_status(block)
         else:
-            sections["DESCRIPTION"] += [".PP", *labelled(block)]
+            lines = labelled(block)
+            sections["DESCRIPTION"] += lines if lines[0] == ".PP" else [".PP", *lines]
     return sections
 
 
