@@ -254,6 +254,41 @@ class OddLines(TerminalTest):
         self.assertEqual(len(self.excerpt("x " * 300, COLUMNS="0")[0]), 59)
 
 
+class Pages(TerminalTest):
+    """Standard output is the terminal, too."""
+
+    def page(self, *arguments, columns=60, **variables):
+        terminal = Terminal(columns)
+        process = self.start(
+            "explain",
+            *arguments,
+            columns=terminal,
+            stdin=subprocess.DEVNULL,
+            stdout=terminal.writer,
+            variables=variables,
+        )
+        process.wait(timeout=60)
+        return terminal.close()
+
+    def test_headings_are_bold(self):
+        lines = self.page("E2006").split("\n")
+        self.assertEqual(lines[0], "{red}E2006{/}{bold}: expected whitespace{/}")
+        self.assertIn("{bold}Example:{/}", lines)
+        self.assertIn("{bold}What to do:{/}", lines)
+        self.assertIn("{magenta}W2005{/}{bold}: ", self.page("W2005"))
+
+    def test_no_colours_when_they_are_not_wanted(self):
+        plain = self.page("E2006", "--plain", columns=80)
+        self.assertNotIn("{", plain)
+        self.assertEqual(self.page("E2006", columns=80, NO_COLOR="1"), plain)
+        self.assertEqual(self.page("E2006", columns=80, TERM="dumb"), plain)
+
+    def test_lines_fit_the_terminal(self):
+        lines = self.page("W2010", columns=40, NO_COLOR="1").split("\n")
+        texts = [line for line in lines[1:] if not line.startswith("    ")]
+        self.assertLessEqual(max(map(len, texts)), 40)
+
+
 class ManyWarnings(TerminalTest):
     def test_alike_warnings_are_folded(self):
         comments = "".join(f"! {i} \x01\n" for i in range(1239))

@@ -18,6 +18,7 @@
 #include "json/comparison_json.h"
 #include "json/json_report.h"
 #include "terminal/console.h"
+#include "terminal/display.h"
 #include "text/value_text.h"
 
 namespace tool {
@@ -160,6 +161,7 @@ void add_diff_command(CLI::App& app, int& exit_code) {
   command->add_flag("--strict", options->strict, "Files that differ in form differ");
   command->add_flag("--json", options->json,
                     "Print JSON instead, and no diagnostics to standard error");
+  add_plain_option(*command);
   command->callback([options, &exit_code] { exit_code = diff(*options); });
 }
 

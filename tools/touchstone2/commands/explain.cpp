@@ -11,6 +11,7 @@
 #include "diagnostics/catalogue.h"
 #include "diagnostics/example_text.h"
 #include "terminal/console.h"
+#include "terminal/display.h"
 #include "text/plain_text.h"
 #include "text/value_text.h"
 
@@ -47,13 +48,18 @@ std::string indented(const std::string& text) {
   return result;
 }
 
-std::string page_about(const Explanation& explanation, std::size_t width) {
-  std::string page = code_text(explanation) + ": " + std::string(explanation.title) + "\n\n";
+std::string page_about(const Explanation& explanation, const Display& display) {
+  const std::size_t width = display.rich ? std::min(display.columns, kMostColumns) : kMostColumns;
+  const Style severity = explanation.is_warning ? Style::magenta : Style::red;
+  std::string page = styled(display, severity, code_text(explanation)) +
+                     styled(display, Style::bold, ": " + std::string(explanation.title)) + "\n\n";
   page += plain_text(explanation.meaning, width);
   if (!explanation.example_name.empty()) {
-    page += "\nExample:\n\n" + indented(example_text(explanation));
+    page += "\n" + styled(display, Style::bold, "Example:") + "\n\n";
+    page += indented(example_text(explanation));
   }
-  page += "\nWhat to do:\n\n" + plain_text(explanation.remedy, width);
+  page += "\n" + styled(display, Style::bold, "What to do:") + "\n\n";
+  page += plain_text(explanation.remedy, width);
   return page;
 }
 
@@ -86,7 +92,6 @@ int explain(const ExplainOptions& options) {
     return kDone;
   }
 
-  const std::size_t width = std::min(terminal_width().value_or(kMostColumns), kMostColumns);
   bool all_known = true;
   std::string pages;
   for (const std::string& code : options.codes) {
@@ -97,7 +102,7 @@ int explain(const ExplainOptions& options) {
     }
     for (const Explanation* explanation : found) {
       if (!pages.empty()) pages += "\n\n";
-      pages += page_about(*explanation, width);
+      pages += page_about(*explanation, output_display());
     }
   }
   if (!all_known) {
@@ -116,6 +121,7 @@ void add_explain_command(CLI::App& app, int& exit_code) {
   CLI::Option* list =
       command->add_flag("--list", options->list, "Print all codes, each with its title");
   list->excludes(codes);
+  add_plain_option(*command);
   command->callback([options, &exit_code] {
     if (options->codes.empty() && !options->list) throw CLI::RequiredError("CODE or --list");
     exit_code = explain(*options);

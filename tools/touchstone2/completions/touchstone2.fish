@@ -23,6 +23,7 @@ complete -c touchstone2 -n '__fish_seen_subcommand_from check' -l plain -d 'Prin
 
 complete -c touchstone2 -n '__fish_seen_subcommand_from explain' -s h -l help -d 'Print this help message and exit'
 complete -c touchstone2 -n '__fish_seen_subcommand_from explain' -l list -d 'Print all codes, each with its title'
+complete -c touchstone2 -n '__fish_seen_subcommand_from explain' -l plain -d 'Print plain lines to a terminal, too, as to a file or a pipe'
 
 complete -c touchstone2 -n '__fish_seen_subcommand_from info' -s h -l help -d 'Print this help message and exit'
 complete -c touchstone2 -n '__fish_seen_subcommand_from info' -l short -d 'Print one line for each file'
@@ -34,6 +35,7 @@ complete -c touchstone2 -n '__fish_seen_subcommand_from diff' -l tol -r -d 'The 
 complete -c touchstone2 -n '__fish_seen_subcommand_from diff' -l frequency-tol -r -d 'The same for frequencies, relative; 0 if not given'
 complete -c touchstone2 -n '__fish_seen_subcommand_from diff' -l strict -d 'Files that differ in form differ'
 complete -c touchstone2 -n '__fish_seen_subcommand_from diff' -l json -d 'Print JSON instead, and no diagnostics to standard error'
+complete -c touchstone2 -n '__fish_seen_subcommand_from diff' -l plain -d 'Print plain lines to a terminal, too, as to a file or a pipe'
 
 complete -c touchstone2 -n '__fish_seen_subcommand_from ports' -s h -l help -d 'Print this help message and exit'
 complete -c touchstone2 -n '__fish_seen_subcommand_from ports' -l set -r -d 'Name a port, as 2=out; may be repeated'

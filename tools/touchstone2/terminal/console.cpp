@@ -23,7 +23,6 @@
 #endif
 #include <windows.h>  // with the shell's part
 #else
-#include <sys/ioctl.h>
 #include <unistd.h>
 #endif
 
@@ -139,24 +138,6 @@ void write_output(std::string_view text) {
   const StatusPause pause;
   print_output(text);
 }
-
-#ifdef _WIN32
-std::optional<std::size_t> terminal_width() {
-  CONSOLE_SCREEN_BUFFER_INFO info;
-  const HANDLE console = ::GetStdHandle(STD_OUTPUT_HANDLE);
-  if (::GetConsoleScreenBufferInfo(console, &info) == 0) return std::nullopt;
-  const int columns = info.srWindow.Right - info.srWindow.Left + 1;
-  if (columns <= 0) return std::nullopt;
-  return static_cast<std::size_t>(columns);
-}
-#else
-// A terminal that does not know its width says 0.
-std::optional<std::size_t> terminal_width() {
-  winsize size{};
-  if (::ioctl(STDOUT_FILENO, TIOCGWINSZ, &size) != 0 || size.ws_col == 0) return std::nullopt;
-  return size.ws_col;
-}
-#endif
 
 void write_error(std::string_view text) {
   if (text.empty()) return;

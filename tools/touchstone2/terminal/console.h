@@ -2,8 +2,6 @@
 #ifndef TOUCHSTONE2_TOOL_CONSOLE_H
 #define TOUCHSTONE2_TOOL_CONSOLE_H
 
-#include <cstddef>
-#include <optional>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -42,9 +40,6 @@ std::vector<std::string> command_line_arguments(int argc, char** argv);
 /// every record at once and the order with standard error is kept.
 /// @throws ClosedPipe, or std::runtime_error for any other failure
 void write_output(std::string_view text);
-
-/// Columns of the terminal that standard output goes to; nothing when it goes elsewhere.
-std::optional<std::size_t> terminal_width();
 
 /// Writes to standard error as the text stands; a failure is ignored.
 void write_error(std::string_view text);

@@ -2,6 +2,7 @@
 
 #include "terminal/display.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cstdio>
 #include <cstdlib>
@@ -37,32 +38,36 @@ std::string_view environment(const char* name) {
 }
 
 #ifdef _WIN32
-bool is_terminal() { return _isatty(_fileno(stderr)) != 0; }
+bool is_terminal(std::FILE* stream) { return _isatty(_fileno(stream)) != 0; }
+
+HANDLE console_of(std::FILE* stream) {
+  return reinterpret_cast<HANDLE>(_get_osfhandle(_fileno(stream)));
+}
 
 // A console of old has no escape sequences.
-bool obeys_sequences() {
-  HANDLE const console = ::GetStdHandle(STD_ERROR_HANDLE);
+bool obeys_sequences(std::FILE* stream) {
+  HANDLE const console = console_of(stream);
   DWORD mode = 0;
   return ::GetConsoleMode(console, &mode) != 0 &&
          ::SetConsoleMode(console, mode | ENABLE_VIRTUAL_TERMINAL_PROCESSING) != 0;
 }
 
-std::size_t columns_of_terminal() {
+std::size_t columns_of_terminal(std::FILE* stream) {
   CONSOLE_SCREEN_BUFFER_INFO info{};
-  if (::GetConsoleScreenBufferInfo(::GetStdHandle(STD_ERROR_HANDLE), &info) == 0) return 0;
+  if (::GetConsoleScreenBufferInfo(console_of(stream), &info) == 0) return 0;
   return static_cast<std::size_t>(info.srWindow.Right - info.srWindow.Left + 1);
 }
 #else
-bool is_terminal() { return ::isatty(STDERR_FILENO) != 0; }
+bool is_terminal(std::FILE* stream) { return ::isatty(::fileno(stream)) != 0; }
 
-bool obeys_sequences() {
+bool obeys_sequences(std::FILE* /*stream*/) {
   const std::string_view terminal = environment("TERM");
   return !terminal.empty() && terminal != "dumb";
 }
 
-std::size_t columns_of_terminal() {
+std::size_t columns_of_terminal(std::FILE* stream) {
   struct winsize size {};
-  return ::ioctl(STDERR_FILENO, TIOCGWINSZ, &size) == 0 ? size.ws_col : 0;
+  return ::ioctl(::fileno(stream), TIOCGWINSZ, &size) == 0 ? size.ws_col : 0;
 }
 #endif
 
@@ -73,20 +78,20 @@ std::size_t wanted_columns() {
   return columns;
 }
 
-std::size_t find_columns() {
+std::size_t find_columns(std::FILE* stream) {
   std::size_t columns = wanted_columns();
-  if (columns == 0) columns = columns_of_terminal();
+  if (columns == 0) columns = columns_of_terminal(stream);
   if (columns == 0) columns = kUsualColumns;
-  return columns < kFewestColumns ? kFewestColumns : columns;
+  return std::max(columns, kFewestColumns);
 }
 
-Display find_display() {
+Display find_display(std::FILE* stream) {
   Display display;
-  if (plain_wanted || !is_terminal()) return display;
+  if (plain_wanted || !is_terminal(stream)) return display;
   display.rich = true;
-  display.can_erase = obeys_sequences();
+  display.can_erase = obeys_sequences(stream);
   display.colour = display.can_erase && environment("NO_COLOR").empty();
-  display.columns = find_columns();
+  display.columns = find_columns(stream);
   return display;
 }
 
@@ -107,7 +112,12 @@ const char* sequence_of(Style style) {
 }  // namespace
 
 const Display& error_display() {
-  static const Display display = find_display();
+  static const Display display = find_display(stderr);
+  return display;
+}
+
+const Display& output_display() {
+  static const Display display = find_display(stdout);
   return display;
 }
 

@@ -1,4 +1,5 @@
-/// How standard error wants its text: for people at a terminal, or plain lines for programs.
+/// How standard error and standard output want their text: for people at a terminal, or plain lines
+/// for programs.
 #ifndef TOUCHSTONE2_TOOL_DISPLAY_H
 #define TOUCHSTONE2_TOOL_DISPLAY_H
 
@@ -19,11 +20,14 @@ struct Display {
   std::size_t columns = 0;  ///< of the terminal; meaningful only if rich
 };
 
-/// Of standard error; looked up once. COLUMNS goes before what the terminal says. NO_COLOR, if it
-/// is not empty, and TERM=dumb take the colours away.
+/// @{
+/// Of standard error and of standard output; looked up once. COLUMNS goes before what the terminal
+/// says. NO_COLOR, if it is not empty, and TERM=dumb take the colours away.
 const Display& error_display();
+const Display& output_display();
+/// @}
 
-/// Adds --plain, which makes error_display a plain one when the command line is parsed.
+/// Adds --plain, which makes both displays plain ones when the command line is parsed.
 void add_plain_option(CLI::App& command);
 
 enum class Style { bold, red, magenta, blue };
