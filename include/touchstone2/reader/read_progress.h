@@ -20,11 +20,13 @@ struct ReadProgress {
   /// record. Any thread may look at it at any time.
   std::atomic<std::uint64_t> bytes{0};
 
-  /// The line that the reader has got to, from 1, and the offset of its first byte. Only for the
-  /// thread that reads: in a handler's call, or when the read has returned. A diagnostic stands in
-  /// this line or in an earlier one, not more than one record before it. The line is 0 when the
-  /// file could not be opened.
+  /// The line that the reader has got to, from 1; 0 when the file could not be opened. Only for
+  /// the thread that reads: in a handler's call, or when the read has returned. A diagnostic stands
+  /// in this line or in an earlier one, not more than one record before it.
   std::size_t line = 0;
+
+  /// Offset of the first byte of that line, in bytes from the begin of the file; for the same
+  /// thread.
   std::uint64_t line_offset = 0;
 };
 
