@@ -72,9 +72,22 @@ std::string frequencies_section(std::string_view title, const DataDifferences& d
   return section(rows);
 }
 
-std::string value_text(ValueForm form, const Pair& value) {
-  if (is_single(form)) return number_text(value.first);
-  return number_text(value.first) + " " + number_text(value.second);
+std::string pair_text(ValueForm form, const Pair& value, std::string (*to_text)(double)) {
+  if (is_single(form)) return to_text(value.first);
+  return to_text(value.first) + " " + to_text(value.second);
+}
+
+struct ValueTexts {
+  std::string a;
+  std::string b;
+};
+
+// Rounded, unless that would hide the difference.
+ValueTexts value_texts(const ValueDifference& value) {
+  ValueTexts texts = {pair_text(value.form, value.a, rounded_text),
+                      pair_text(value.form, value.b, rounded_text)};
+  if (texts.a != texts.b) return texts;
+  return {pair_text(value.form, value.a, number_text), pair_text(value.form, value.b, number_text)};
 }
 
 // Three digits, and never less than the value: as a tolerance it makes the values equal.
@@ -104,11 +117,11 @@ std::string values_section(std::string_view title, const DataDifferences& data) 
   std::vector<Row> rows = {
       {std::string(title), "frequencies", "greatest difference", "at", "A", "B", ""}};
   for (const ValueDifference& value : data.largest) {
+    const ValueTexts texts = value_texts(value);
     rows.push_back({"  " + value.name, std::to_string(value.frequencies) + of_all,
                     rounded_up(value.difference),
-                    exact_frequency_text(value.unscaled_freq, data.only_in_a.unit),
-                    value_text(value.form, value.a), value_text(value.form, value.b),
-                    std::string(form_text(value.form))});
+                    exact_frequency_text(value.unscaled_freq, data.only_in_a.unit), texts.a,
+                    texts.b, std::string(form_text(value.form))});
   }
   add_count_of_others(rows, data.parameters - data.largest.size());
   return section(rows);

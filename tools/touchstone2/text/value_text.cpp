@@ -146,6 +146,13 @@ std::string number_text(double value) {
       fill(buffer, std::to_chars(buffer.data(), buffer.data() + buffer.size(), value)));
 }
 
+std::string rounded_text(double value) {
+  constexpr int kDigits = 6;
+  std::array<char, 64> buffer;
+  return std::string(fill(buffer, std::to_chars(buffer.data(), buffer.data() + buffer.size(), value,
+                                                std::chars_format::general, kDigits)));
+}
+
 std::string count_text(std::size_t count, std::string_view one, std::string_view many) {
   std::string text = std::to_string(count) + " ";
   return text.append(count == 1 ? one : many);

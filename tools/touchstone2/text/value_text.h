@@ -28,6 +28,9 @@ std::string mixed_mode_text(const touchstone2::File& file);
 /// The shortest text that reads back as the same number.
 std::string number_text(double value);
 
+/// The number with six significant digits at most.
+std::string rounded_text(double value);
+
 /// "1 frequency", "3 frequencies": `many` is "frequencies".
 std::string count_text(std::size_t count, std::string_view one, std::string_view many);
 
