@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <exception>
+#include <memory>
 #include <new>
 #include <string>
 #include <utility>
@@ -17,6 +18,7 @@
 #include "commands/convert.h"
 #include "commands/diff.h"
 #include "commands/explain.h"
+#include "commands/help_format.h"
 #include "commands/info.h"
 #include "commands/ports.h"
 #include "commands/reorder.h"
@@ -69,6 +71,7 @@ int run(std::vector<std::string> arguments) {
   int exit_code = tool::kAllValid;
   CLI::App app(kDescription, "touchstone2");
   app.footer(kFooter);
+  app.formatter(std::make_shared<tool::HelpFormat>());
   app.set_version_flag("--version", "touchstone2 " TOUCHSTONE2_VERSION_STRING,
                        "Print the version and exit");
   app.add_flag_callback("--describe-commands", [] { throw CallForDescription{}; })->group("");
