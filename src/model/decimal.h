@@ -17,18 +17,23 @@ struct UInt128 {
   std::uint64_t low;
 };
 
-constexpr UInt128 multiply_64x64(std::uint64_t a, std::uint64_t b) {
-#ifdef __SIZEOF_INT128__
-  __extension__ using Wide = unsigned __int128;
-  const Wide product = static_cast<Wide>(a) * b;
-  return {static_cast<std::uint64_t>(product >> 64), static_cast<std::uint64_t>(product)};
-#else
+// For compilers without a type of 128 bits.
+constexpr UInt128 multiply_by_halves(std::uint64_t a, std::uint64_t b) {
   const std::uint64_t a_low = a & 0xFFFFFFFF, a_high = a >> 32;
   const std::uint64_t b_low = b & 0xFFFFFFFF, b_high = b >> 32;
   const std::uint64_t low = a_low * b_low;
   const std::uint64_t middle = a_high * b_low + (low >> 32);
   const std::uint64_t middle2 = a_low * b_high + (middle & 0xFFFFFFFF);
   return {a_high * b_high + (middle >> 32) + (middle2 >> 32), (middle2 << 32) | (low & 0xFFFFFFFF)};
+}
+
+constexpr UInt128 multiply_64x64(std::uint64_t a, std::uint64_t b) {
+#ifdef __SIZEOF_INT128__
+  __extension__ using Wide = unsigned __int128;
+  const Wide product = static_cast<Wide>(a) * b;
+  return {static_cast<std::uint64_t>(product >> 64), static_cast<std::uint64_t>(product)};
+#else
+  return multiply_by_halves(a, b);
 #endif
 }
 

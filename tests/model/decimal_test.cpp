@@ -22,6 +22,31 @@ void expect_nearest(std::uint64_t digits, int exponent) {
   EXPECT_TRUE(test::same_bits(value, exact_value(digits, exponent))) << digits << "e" << exponent;
 }
 
+// Both ways, whichever of them this compiler takes.
+TEST(Decimal, ProductsOf128Bits) {
+  const std::uint64_t all = ~std::uint64_t{0};
+  const struct {
+    std::uint64_t a, b, high, low;
+  } products[] = {
+      {0, all, 0, 0},
+      {1, all, 0, all},
+      {2, all, 1, all - 1},
+      {all, all, all - 1, 1},
+      {0xFFFFFFFF, 0xFFFFFFFF, 0, 0xFFFFFFFE00000001},
+      {std::uint64_t{1} << 32, std::uint64_t{1} << 32, 1, 0},
+      {0x00000001FFFFFFFF, 0xFFFFFFFF00000001, 0x00000001FFFFFFFD, 0x00000002FFFFFFFF},
+      {0x123456789ABCDEF0, 0x0FEDCBA987654321, 0x0121FA00AD77D742, 0x2236D88FE5618CF0},
+  };
+  for (const auto& p : products) {
+    for (const auto& multiply : {multiply_64x64, multiply_by_halves}) {
+      for (const UInt128 product : {multiply(p.a, p.b), multiply(p.b, p.a)}) {
+        EXPECT_EQ(product.high, p.high) << p.a << " * " << p.b;
+        EXPECT_EQ(product.low, p.low) << p.a << " * " << p.b;
+      }
+    }
+  }
+}
+
 TEST(Decimal, PowersOfFive) {
   // 5 = 101b, 25 = 11001b, 1/5 = 0.110011...b rounded up.
   EXPECT_EQ(kPowersOfFive[55].high, 0x8000000000000000);
