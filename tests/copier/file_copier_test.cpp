@@ -246,6 +246,13 @@ TEST(SubsetOfPorts, OfATwoPortFileLosesTheNoiseWithAPort) {
   EXPECT_EQ(one.file->get_two_port_data_order(), TwoPortDataOrder::Unspecified);
 }
 
+TEST(SubsetOfPorts, OfATwoPortFileWithoutNoiseHasNone) {
+  auto read = valid("# GHz S RI R 50\n1 1 0 2 0 3 0 4 0\n");
+  const Copy copy = subset(read.file, {{1, ""}, {0, ""}});
+  EXPECT_EQ(copy.noise, nullptr);
+  EXPECT_EQ(cell(*copy.file, 0, 0, 0), Pair(4.0, 0.0));
+}
+
 TEST(SubsetOfPorts, CanBeEmpty) {
   auto read = valid(four_ports("[Reference] 10 20 30 40\n", kFourNames));
   read.file.get_port_names();

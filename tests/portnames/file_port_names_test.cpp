@@ -63,6 +63,25 @@ TEST(FilePortNames, AreFoundInBothKindsOfComments) {
   }
 }
 
+// The port count of a file whose header alone was read is a claim.
+TEST(FilePortNames, OfMorePortsThanAnyFileHasAreRefused) {
+  const struct {
+    std::size_t ports;
+    bool refused;
+  } cases[] = {{std::size_t{1} << 20, false}, {(std::size_t{1} << 20) + 1, true}};
+  for (const auto& c : cases) {
+    const auto claimed =
+        test::read_text("[Version] 2.0\n# GHz\n[Number of Ports] " + std::to_string(c.ports) + "\n",
+                        test::Extent::header);
+    ASSERT_TRUE(claimed.ok) << c.ports;
+    if (c.refused) {
+      EXPECT_THROW(claimed.file.get_port_names(), std::length_error);
+    } else {
+      EXPECT_EQ(claimed.file.get_port_names().size(), c.ports);
+    }
+  }
+}
+
 TEST(FilePortNames, AreLookedUpOnce) {
   File file = file_with(2, {"Port[1] = A"});
   const Strings* const names = &file.get_port_names();
