@@ -32,7 +32,10 @@ ROOT = pathlib.Path(__file__).resolve().parent.parent
 TESTS = [
     "touchstone2_unit_tests",
     "touchstone2_api_tests",
+    "touchstone2_golden_tests",
+    "touchstone2_property_tests",
     "touchstone2_claims_test",
+    "touchstone2_hostile_files_test",
     "touchstone2_robustness_tests",
     "touchstone2_allocation_faults_test",
     "touchstone2_system_faults_test",
