@@ -30,4 +30,5 @@ show 0 touchstone2 ports build/run/named.s4p
 show 0 touchstone2 subset examples/good/coupler.s4p --ports 1=in,3=out -o -
 show 0 touchstone2 convert examples/good/connector.s4p --to v1 -o build/run/full.s4p --force
 show 0 touchstone2 info build/run/full.s4p
-printf '\nThe tool is %s\n' "$touchstone2"
+printf '\nTo try the tool yourself, in this shell:\n\n  export PATH="%s:$PATH"\n' \
+    "$PWD/${touchstone2%/*}"
