@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <array>
 #include <chrono>
+#include <cmath>
 #include <cstdio>
 #include <system_error>
 #include <utility>
@@ -50,7 +51,7 @@ std::string bytes_text(const ProgressState& state) {
 }
 
 std::string duration_text(double seconds) {
-  const auto whole = static_cast<std::size_t>(seconds + 0.5);
+  const auto whole = static_cast<std::size_t>(std::lround(seconds));
   constexpr std::size_t kMinute = 60;
   if (whole < kMinute) return std::to_string(whole) + " s";
   return std::to_string(whole / kMinute) + " min " + std::to_string(whole % kMinute) + " s";
