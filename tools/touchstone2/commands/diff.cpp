@@ -11,6 +11,7 @@
 #include <CLI/CLI.hpp>
 #include <nlohmann/json.hpp>
 
+#include "commands/input_reading.h"
 #include "comparison/comparison.h"
 #include "comparison/comparison_text.h"
 #include "diagnostics/report.h"
@@ -85,29 +86,10 @@ std::string_view verdict_on(const Comparison& comparison) {
   return comparison.same_form() ? "equal" : "equal but for the form";
 }
 
-// Adds what is said about the file.
-Outcome read_to_json(Json& verdict, SourceFile& source) {
-  CollectingHandler handler;
-  const Attempt attempt = source.try_read(handler, Extent::whole);
-  complain_about(source, attempt);
-  add_verdict(verdict, source.name(), attempt.outcome == Outcome::valid, handler.diagnostics(),
-              attempt.failure);
-  return attempt.outcome;
-}
-
-Outcome read_to_terminal(SourceFile& source) {
-  PrintingHandler handler(source, write_error);
-  const Attempt attempt = source.try_read(handler, Extent::whole);
-  handler.finish();
-  complain_about(source, attempt);
-  write_error(explain_hint(handler.error_code()));
-  return attempt.outcome;
-}
-
 int diff_as_json(SourceFile& a, SourceFile& b, const DiffOptions& options) {
   Json object = versioned_object();
-  const Outcome of_a = read_to_json(object["a"], a);
-  const Outcome of_b = read_to_json(object["b"], b);
+  const Outcome of_a = read_to_json(a, object["a"]);
+  const Outcome of_b = read_to_json(b, object["b"]);
   if (of_a == Outcome::failed || of_b == Outcome::failed) return kNotDone;
   object["tolerance"] = options.tolerance.values;
   object["frequency_tolerance"] = options.tolerance.frequencies;
@@ -125,8 +107,10 @@ int diff_as_json(SourceFile& a, SourceFile& b, const DiffOptions& options) {
 }
 
 int diff_as_text(SourceFile& a, SourceFile& b, const DiffOptions& options) {
-  const Outcome of_a = read_to_terminal(a);
-  const Outcome of_b = read_to_terminal(b);
+  std::string first_error;
+  const Outcome of_a = read_to_text(a, first_error);
+  const Outcome of_b = read_to_text(b, first_error);
+  write_error(explain_hint(first_error));
   if (of_a != Outcome::valid || of_b != Outcome::valid) return kNotDone;
   const Comparison comparison = compare(a.file(), b.file(), options.tolerance);
   std::string page = "A: " + printable(a.name()) + "\nB: " + printable(b.name()) + "\n\n";

@@ -15,6 +15,7 @@
 #include <CLI/CLI.hpp>
 #include <nlohmann/json.hpp>
 
+#include "commands/input_reading.h"
 #include "diagnostics/report.h"
 #include "inputs/input_files.h"
 #include "inputs/source_file.h"
@@ -200,25 +201,16 @@ class Teller {
 
  private:
   static Outcome tell_as_json(SourceFile& source) {
-    CollectingHandler handler;
-    const Attempt attempt = source.try_read(handler, Extent::whole);
-    complain_about(source, attempt);
-    if (attempt.outcome == Outcome::failed) return attempt.outcome;
-    const bool valid = attempt.outcome == Outcome::valid;
     Json object = versioned_object();
-    add_verdict(object, source.name(), valid, handler.diagnostics(), attempt.failure);
-    if (valid) object["file"] = file_to_json(source.file());
+    const Outcome outcome = read_to_json(source, object);
+    if (outcome == Outcome::failed) return outcome;
+    if (outcome == Outcome::valid) object["file"] = file_to_json(source.file());
     write_output(json_line(object));
-    return attempt.outcome;
+    return outcome;
   }
 
   Outcome tell_as_text(SourceFile& source) {
-    PrintingHandler handler(source, write_error);
-    const Attempt attempt = source.try_read(handler, Extent::whole);
-    handler.finish();
-    complain_about(source, attempt);
-    if (error_code_.empty()) error_code_ = handler.error_code();
-    const Outcome outcome = attempt.outcome;
+    const Outcome outcome = read_to_text(source, error_code_);
     if (outcome == Outcome::failed) return outcome;
     write_output(options_.short_lines ? line_about(source, outcome) : page_of(source, outcome));
     return outcome;

@@ -122,10 +122,6 @@ bool read_and_print(SourceFile& source, Extent extent) {
   return valid;
 }
 
-void complain_about(const SourceFile& source, const Attempt& attempt) {
-  if (!attempt.failure.empty()) complain(source.name() + ": " + attempt.failure);
-}
-
 std::string explain_hint(const std::string& error_code) {
   if (!error_display().rich || error_code.empty()) return "";
   return "for more about an error, try `touchstone2 explain " + error_code + "`\n";

@@ -114,9 +114,6 @@ class ForwardingHandler : public CountingHandler {
 /// @return false when the file is refused
 bool read_and_print(SourceFile& source, Extent extent);
 
-/// Complains about a file that could not be read to its end, if it could not.
-void complain_about(const SourceFile& source, const Attempt& attempt);
-
 /// At a terminal: where to read on about an error. Else nothing, and nothing for no code.
 std::string explain_hint(const std::string& error_code);
 
