@@ -10,15 +10,11 @@
 #include <vector>
 
 #include <gtest/gtest.h>
+#include <windows.h>
 
 #include "reader/mapped_file.h"
 #include "support/recording_handler.h"
 #include "support/temp_file.h"
-
-#ifndef NOMINMAX
-#define NOMINMAX
-#endif
-#include <windows.h>
 
 namespace touchstone2 {
 namespace {

@@ -1,15 +1,8 @@
 // Win32 implementation of the folders.
 
-#include "inputs/folder.h"
-
-#ifndef WIN32_LEAN_AND_MEAN
-#define WIN32_LEAN_AND_MEAN
-#endif
-#ifndef NOMINMAX
-#define NOMINMAX
-#endif
 #include <windows.h>
 
+#include "inputs/folder.h"
 #include "inputs/path_text.h"
 
 namespace tool {

@@ -7,16 +7,10 @@
 #include <stdexcept>
 #include <system_error>
 
+#include <windows.h>
+
 #include "inputs/path_text.h"
 #include "outputs/temporary_file.h"
-
-#ifndef WIN32_LEAN_AND_MEAN
-#define WIN32_LEAN_AND_MEAN
-#endif
-#ifndef NOMINMAX
-#define NOMINMAX
-#endif
-#include <windows.h>
 
 namespace tool {
 

@@ -18,10 +18,7 @@
 #ifdef _WIN32
 #include <fcntl.h>
 #include <io.h>
-#ifndef NOMINMAX
-#define NOMINMAX
-#endif
-#include <windows.h>  // with the shell's part
+#include <windows.h>
 #else
 #include <unistd.h>
 #endif
