@@ -29,13 +29,13 @@ if [ "${#targets[@]}" -eq 0 ]; then
     targets=(row_paths read round_trip comments copier)
 fi
 
-# About equally long each, a quarter of a minute.
+# About equally long each, some seconds.
 short_runs() {
     case "$1" in
-        row_paths) echo 60000 ;;
-        read) echo 150000 ;;
-        comments) echo 30000 ;;
-        *) echo 90000 ;;
+        row_paths) echo 20000 ;;
+        read) echo 50000 ;;
+        comments) echo 10000 ;;
+        *) echo 30000 ;;
     esac
 }
 

@@ -49,4 +49,4 @@ step "fuzz targets, a fixed number of runs" scripts/fuzz.sh --short
 step "clang-tidy" scripts/tidy.sh
 step "instructions per byte" scripts/check_instructions.sh
 step "binary interface" scripts/abi.sh
-step "site of the documentation" scripts/docs.sh
+step "site of the documentation" scripts/docs.sh build/release/tools/touchstone2/touchstone2
