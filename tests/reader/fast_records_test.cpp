@@ -184,6 +184,10 @@ TEST(FastRecords, InterruptedRunsGiveTheSameResult) {
       {"noise row", "0.5 1 0.3 20 0.4\n"},
       {"noise row of a higher frequency", "500 1 0.3 20 0.4\n"},
       {"number", "7\n"},
+      {"frequency and values of one port on two lines", "4.0001\n1 1\n"},
+      {"two ports on two lines", "4.0001 1 1 1 1\n1 1 1 1\n"},
+      {"two ports, a pair on two lines", "4.0001 1 1 1\n1 1 1 1 1\n"},
+      {"two ports on two lines, like noise", "0.0001 1 1 1 1\n1 1 1 1\n"},
       {"clipped numbers", "4.0001 1e999 1e-999 1 1 1 1 1 1\n"},
   };
   std::mt19937_64 random(6);
