@@ -7,8 +7,8 @@
 
 A change is a flipped comparison, an off-by-one, a changed constant, operator or
 error code, a dropped statement, two swapped arguments. The work is done in a copy
-of the tree; nothing here is touched. The tests run fastest first and stop at the
-first failure. Printed are the changes that no test noticed, and the score. Some
+of the tree; nothing here is touched. The tests that have noticed most in the least
+time run first, and the first failure ends them. Printed are the changes that no test noticed, and the score. Some
 of them change nothing that can be seen; that is for the reader to judge.
 
 Run by hand; not part of the checks.
@@ -139,13 +139,14 @@ def limit_memory():
 
 
 class Workshop:
-    """A copy of the tree, built without optimisation."""
+    """A copy of the tree, optimised a little: compiled as fast, tested several times faster."""
 
     def __init__(self, folder, jobs):
         self.source = folder / "source"
         self.build_folder = folder / "build"
         self.jobs = str(jobs)
-        self.tests = []  # (name, executable, seconds), fastest first
+        self.tests = []  # (name, executable, seconds)
+        self.noticed = collections.Counter()  # changes, by test
         ignore = shutil.ignore_patterns("build", ".git", "__pycache__")
         shutil.copytree(ROOT, self.source, ignore=ignore, dirs_exist_ok=True)
 
@@ -154,7 +155,8 @@ class Workshop:
         linker = ["-fuse-ld=lld"] if shutil.which("ld.lld") else []
         subprocess.run(
             ["cmake", "-S", self.source, "-B", self.build_folder, "-G", "Ninja"]
-            + ["-DCMAKE_BUILD_TYPE=Debug", "-DCMAKE_CXX_FLAGS=-O0 -g0 -w"]
+            + ["-DCMAKE_BUILD_TYPE=Debug", "-DCMAKE_CXX_FLAGS=-O1 -g0 -w"]
+            + ["-DCMAKE_LINK_DEPENDS_NO_SHARED=ON"]
             + [f"-DCMAKE_{kind}_LINKER_FLAGS={' '.join(linker)}" for kind in ("EXE", "SHARED")]
             + [f"-DTOUCHSTONE2_{option}" for option in options],
             check=True,
@@ -168,7 +170,6 @@ class Workshop:
             if executable is None or self.run_test(executable, 300) != "passed":
                 sys.exit(f"mutate: {name} fails in the unchanged tree")
             self.tests.append((name, executable, time.monotonic() - start))
-        self.tests.sort(key=lambda test: test[2])
 
     def build(self):
         command = ["cmake", "--build", self.build_folder, "-j", self.jobs, "-t", *TESTS]
@@ -199,8 +200,10 @@ class Workshop:
         try:
             if not self.build():
                 return "compiler"
+            self.tests.sort(key=lambda test: test[2] / (1 + self.noticed[test[0]]))
             for name, executable, seconds in self.tests:
                 if self.run_test(executable, 10 * seconds + 10) != "passed":
+                    self.noticed[name] += 1
                     return name
             return None
         finally:
