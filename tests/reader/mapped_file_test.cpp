@@ -321,6 +321,19 @@ TEST(MappedFile, FailuresLeaveNothingOpen) {
   }
 }
 
+// What a host without a standard input gives its next file: descriptor 0.
+TEST(MappedFile, TheFirstDescriptorIsOneLikeOthers) {
+  const TempFile source("some bytes");
+  const int kept = ::dup(STDIN_FILENO);
+  ::close(STDIN_FILENO);
+  EXPECT_EQ(code_of(source.name()), 0);
+  EXPECT_EQ(::fcntl(STDIN_FILENO, F_GETFD), -1) << "the file is still open";
+  if (kept >= 0) {
+    ::dup2(kept, STDIN_FILENO);
+    ::close(kept);
+  }
+}
+
 // Looks at the process each time it is told something, and throws where it is told to.
 struct WatchingHandler : MessageHandler {
   explicit WatchingHandler(const std::string& file_name) : name(file_name) {}

@@ -143,6 +143,7 @@ TEST(NoiseData, TheChecksOfARowAndTheirOrder) {
       // Each number is converted at its own step, the angle with the magnitude.
       {"clipped frequency", "1e999 1 .3 0 .1", {"W2301 :1 '1e999'"}},
       {"clipped noise figure", "4 -1e999 .3 0 .1", {"W2301 :3 '-1e999'", "W2321 :3 '-1e999'"}},
+      {"clipped magnitude", "4 1 1e999 0 .1", {"W2301 :5 '1e999'"}},
       {"angle before the magnitude's sign",
        "4 1 -.3 1E999 1e999",
        {"W2301 :9 '1e999'", "E2313 :5 '-.3'"}},
