@@ -7,9 +7,10 @@
 
 A change is a flipped comparison, an off-by-one, a changed constant, operator or
 error code, a dropped statement, two swapped arguments. The work is done in a copy
-of the tree; nothing here is touched. The tests that have noticed most in the least
-time run first, and the first failure ends them. Printed are the changes that no test noticed, and the score. Some
-of them change nothing that can be seen; that is for the reader to judge.
+of the tree; nothing here is touched. The tests that noticed the last changes run
+first, then all, the fastest program first; the first failure ends them. Printed are
+the changes that no test noticed, and the score. Some of them change nothing that
+can be seen; that is for the reader to judge.
 
 Run by hand; not part of the checks.
 """
@@ -43,6 +44,7 @@ TESTS = [
 # Not worth a run, or only for other systems.
 LEFT_OUT = re.compile(r"src/binding/|_win32\.cpp$")
 MEMORY = 2 << 30  # bytes, mapped files not counted; a changed loop may never end
+SUSPECTS = 12  # tests that noticed the last changes
 
 # Kind, pattern, replacement. Operators are told from brackets of templates and
 # from pointers by the blanks that the formatter puts around them.
@@ -145,8 +147,8 @@ class Workshop:
         self.source = folder / "source"
         self.build_folder = folder / "build"
         self.jobs = str(jobs)
-        self.tests = []  # (name, executable, seconds)
-        self.noticed = collections.Counter()  # changes, by test
+        self.tests = []  # (name, executable, seconds), fastest first
+        self.suspects = []  # (program name, executable, test), the latest first
         ignore = shutil.ignore_patterns("build", ".git", "__pycache__")
         shutil.copytree(ROOT, self.source, ignore=ignore, dirs_exist_ok=True)
 
@@ -167,31 +169,67 @@ class Workshop:
         for name in TESTS:
             executable = next(self.build_folder.rglob(name), None)
             start = time.monotonic()
-            if executable is None or self.run_test(executable, 300) != "passed":
+            if executable is None or self.first_failure(executable, 300) is not None:
                 sys.exit(f"mutate: {name} fails in the unchanged tree")
             self.tests.append((name, executable, time.monotonic() - start))
+        self.tests.sort(key=lambda test: test[2])
 
     def build(self):
         command = ["cmake", "--build", self.build_folder, "-j", self.jobs, "-t", *TESTS]
         return subprocess.run(command, capture_output=True).returncode == 0
 
     @staticmethod
-    def run_test(executable, seconds):
-        try:
-            done = subprocess.run(
-                [executable, "--gtest_fail_fast", "--gtest_brief=1"],
-                capture_output=True,
-                timeout=seconds,
-                preexec_fn=limit_memory,
-                cwd=executable.parent,
-                env={**os.environ, "GTEST_COLOR": "no"},
-            )
-        except subprocess.TimeoutExpired:
-            return "too long"
-        return "passed" if done.returncode == 0 else "failed"
+    def first_failure(executable, seconds, tests="*"):
+        """The test that failed, crashed or took too long; None if all passed.
+
+        "*" if the program ended before the first one began.
+        """
+        with tempfile.TemporaryFile() as output:
+            try:
+                done = subprocess.run(
+                    [executable, "--gtest_fail_fast", f"--gtest_filter={tests}"],
+                    stdout=output,
+                    stderr=subprocess.STDOUT,
+                    timeout=seconds,
+                    preexec_fn=limit_memory,
+                    cwd=executable.parent,
+                    env={**os.environ, "GTEST_COLOR": "no"},
+                )
+                if done.returncode == 0:
+                    return None
+            except subprocess.TimeoutExpired:
+                pass
+            output.seek(0)
+            started = re.findall(rb"^\[ RUN +\] (\S+)", output.read(), re.MULTILINE)
+            return started[-1].decode("ascii") if started else "*"
+
+    def suspects_by_program(self):
+        groups = {}
+        for name, executable, test in self.suspects:
+            groups.setdefault((name, executable), []).append(test)
+        return groups.items()
+
+    def remember(self, name, executable, test):
+        if test == "*":
+            return
+        suspect = (name, executable, test)
+        others = [other for other in self.suspects if other != suspect]
+        self.suspects = [suspect, *others][:SUSPECTS]
+
+    def run_tests(self):
+        """Who noticed: the name of a test program, or nobody (None)."""
+        for (name, executable), tests in self.suspects_by_program():
+            if failed := self.first_failure(executable, 15, ":".join(tests)):
+                self.remember(name, executable, failed)
+                return name
+        for name, executable, seconds in self.tests:
+            if failed := self.first_failure(executable, 4 * seconds + 5):
+                self.remember(name, executable, failed)
+                return name
+        return None
 
     def judge(self, change):
-        """Who noticed: the name of a test, "compiler", or nobody (None)."""
+        """Who noticed: the name of a test program, "compiler", or nobody (None)."""
         file = self.source / change.file
         before = file.read_text(encoding="ascii")
         lines = before.split("\n")
@@ -200,12 +238,7 @@ class Workshop:
         try:
             if not self.build():
                 return "compiler"
-            self.tests.sort(key=lambda test: test[2] / (1 + self.noticed[test[0]]))
-            for name, executable, seconds in self.tests:
-                if self.run_test(executable, 10 * seconds + 10) != "passed":
-                    self.noticed[name] += 1
-                    return name
-            return None
+            return self.run_tests()
         finally:
             file.write_text(before, encoding="ascii")
 
