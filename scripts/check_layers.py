@@ -50,8 +50,10 @@ TOOL_MAY_INCLUDE = {
     "comparison": {"text"},
     "json": {"comparison", "diagnostics", "text"},
     "inputs": {"terminal", "text"},
-    "outputs": {"diagnostics", "inputs", "terminal", "text"},
+    "command_line": {"json", "terminal"},
+    "outputs": {"command_line", "diagnostics", "inputs", "terminal", "text"},
     "commands": {
+        "command_line",
         "comparison",
         "diagnostics",
         "inputs",

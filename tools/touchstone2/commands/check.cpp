@@ -8,8 +8,6 @@
 #include <stdexcept>
 #include <thread>
 
-#include <CLI/CLI.hpp>
-
 #include "commands/check_formats.h"
 #include "commands/check_run.h"
 #include "diagnostics/report.h"
@@ -101,32 +99,27 @@ int check(const CheckOptions& options) {
   return exit_code;
 }
 
-void add_check_command(CLI::App& app, int& exit_code) {
+void add_check_command(CommandLine& line) {
   const auto options = std::make_shared<CheckOptions>();
-  CLI::App* command =
-      app.add_subcommand("check", "Say which files are valid and why others are not");
-  command->footer(kFooter);
-  command->add_option("PATH", options->paths, "Files, folders, or - for standard input")
-      ->required();
-  CLI::Option* quiet = command->add_flag("-q,--quiet", options->quiet,
-                                         "Print diagnostics only, no verdicts and no total");
-  command->add_flag("--header-only", options->header_only,
-                    "Read only up to the number of ports, which leaves the data unchecked");
-  command->add_flag("--werror", options->werror, "Count a file with warnings as refused");
-  CLI::Option* json =
-      command
-          ->add_flag("--json", options->json,
-                     "Print JSON Lines instead, and no diagnostics to standard error")
-          ->excludes(quiet);
-  command
-      ->add_option("--format", options->format, "The form of the output: text, gcc, json or sarif")
-      ->type_name("FORMAT")
-      ->excludes(json);
-  command->add_option("-j,--jobs", options->jobs, "Files to read at the same time")
-      ->type_name("N")
-      ->check(CLI::Range(1, 1024));
-  add_plain_option(*command);
-  command->callback([options, &exit_code] { exit_code = check(*options); });
+  Command command =
+      line.add_command("check", "Say which files are valid and why others are not", kFooter);
+  command.option("PATH", options->paths, "Files, folders, or - for standard input").is_required();
+  const Option quiet = command.flag("-q,--quiet", options->quiet,
+                                    "Print diagnostics only, no verdicts and no total");
+  command.flag("--header-only", options->header_only,
+               "Read only up to the number of ports, which leaves the data unchecked");
+  command.flag("--werror", options->werror, "Count a file with warnings as refused");
+  const Option json = command
+                          .flag("--json", options->json,
+                                "Print JSON Lines instead, and no diagnostics to standard error")
+                          .excludes(quiet);
+  command.option("--format", options->format, "The form of the output: text, gcc, json or sarif")
+      .shows_value_as("FORMAT")
+      .excludes(json);
+  command.option("-j,--jobs", options->jobs, "Files to read at the same time")
+      .shows_value_as("N")
+      .is_between(1, 1024);
+  command.runs([options] { return check(*options); });
 }
 
 }  // namespace tool

@@ -6,9 +6,7 @@
 #include <string>
 #include <vector>
 
-namespace CLI {
-class App;
-}
+#include "command_line/command_line.h"
 
 namespace tool {
 
@@ -25,9 +23,8 @@ struct CheckOptions {
 /// @return the exit code
 int check(const CheckOptions& options);
 
-/// Adds the subcommand to `app`; when it is chosen, parsing runs it and stores its exit code
-/// in `exit_code`, which must outlive `app`.
-void add_check_command(CLI::App& app, int& exit_code);
+/// Adds the command to `line`.
+void add_check_command(CommandLine& line);
 
 }  // namespace tool
 

@@ -7,8 +7,6 @@
 #include <memory>
 #include <stdexcept>
 
-#include <CLI/CLI.hpp>
-
 #include "terminal/console.h"
 
 namespace tool {
@@ -25,6 +23,12 @@ no mixed mode and 2-port data in the order 21_12 only; an upper or lower matrix 
 written in full. What it cannot hold is refused.
 
 )";
+
+constexpr const char* kExamples = R"(
+
+Examples:
+  touchstone2 convert amplifier.s2p --to v2 -o amplifier.ts
+  touchstone2 convert connector.s4p --to v1 --precision 6 -o -)";
 
 FileVersion version_of(const std::string& to, const File& source) {
   if (to.empty()) return source.get_version();
@@ -50,18 +54,14 @@ int convert(const ConvertOptions& options) {
   return write_result(source, result, version, options.write);
 }
 
-void add_convert_command(CLI::App& app, int& exit_code) {
+void add_convert_command(CommandLine& line) {
   const auto options = std::make_shared<ConvertOptions>();
-  CLI::App* command = app.add_subcommand("convert", "Write a file as version 1 or version 2");
-  command->footer(std::string(kFooter) + kWritingHelp + R"(
-
-Examples:
-  touchstone2 convert amplifier.s2p --to v2 -o amplifier.ts
-  touchstone2 convert connector.s4p --to v1 --precision 6 -o -)");
-  command->add_option("FILE", options->path, "A file, or - for standard input")->required();
-  command->add_option("--to", options->to, "The version to write")->type_name("v1|v2");
-  add_write_options(*command, options->write)->required();
-  command->callback([options, &exit_code] { exit_code = convert(*options); });
+  Command command = line.add_command("convert", "Write a file as version 1 or version 2",
+                                     std::string(kFooter) + kWritingHelp + kExamples);
+  command.option("FILE", options->path, "A file, or - for standard input").is_required();
+  command.option("--to", options->to, "The version to write").shows_value_as("v1|v2");
+  add_write_options(command, options->write).is_required();
+  command.runs([options] { return convert(*options); });
 }
 
 }  // namespace tool

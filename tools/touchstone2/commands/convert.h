@@ -4,11 +4,8 @@
 
 #include <string>
 
+#include "command_line/command_line.h"
 #include "outputs/writing.h"
-
-namespace CLI {
-class App;
-}
 
 namespace tool {
 
@@ -21,9 +18,8 @@ struct ConvertOptions {
 /// @return the exit code
 int convert(const ConvertOptions& options);
 
-/// Adds the subcommand to `app`; when it is chosen, parsing runs it and stores its exit code
-/// in `exit_code`, which must outlive `app`.
-void add_convert_command(CLI::App& app, int& exit_code);
+/// Adds the command to `line`.
+void add_convert_command(CommandLine& line);
 
 }  // namespace tool
 

@@ -8,7 +8,6 @@
 #include <stdexcept>
 #include <string_view>
 
-#include <CLI/CLI.hpp>
 #include <nlohmann/json.hpp>
 
 #include "commands/input_reading.h"
@@ -128,25 +127,22 @@ int diff(const DiffOptions& options) {
   return options.json ? diff_as_json(a, b, options) : diff_as_text(a, b, options);
 }
 
-void add_diff_command(CLI::App& app, int& exit_code) {
+void add_diff_command(CommandLine& line) {
   const auto options = std::make_shared<DiffOptions>();
-  CLI::App* command = app.add_subcommand("diff", "Say what two files differ in");
-  command->footer(kFooter);
-  command->add_option("A", options->path_a, "A file, or - for standard input")->required();
-  command->add_option("B", options->path_b, "Another one")->required();
+  Command command = line.add_command("diff", "Say what two files differ in", kFooter);
+  command.option("A", options->path_a, "A file, or - for standard input").is_required();
+  command.option("B", options->path_b, "Another one").is_required();
   command
-      ->add_option("--tol", options->tolerance.values,
-                   "The greatest difference of values that counts as none; 0 if not given")
-      ->type_name("TOL");
+      .option("--tol", options->tolerance.values,
+              "The greatest difference of values that counts as none; 0 if not given")
+      .shows_value_as("TOL");
   command
-      ->add_option("--frequency-tol", options->tolerance.frequencies,
-                   "The same for frequencies, relative; 0 if not given")
-      ->type_name("F");
-  command->add_flag("--strict", options->strict, "Files that differ in form differ");
-  command->add_flag("--json", options->json,
-                    "Print JSON instead, and no diagnostics to standard error");
-  add_plain_option(*command);
-  command->callback([options, &exit_code] { exit_code = diff(*options); });
+      .option("--frequency-tol", options->tolerance.frequencies,
+              "The same for frequencies, relative; 0 if not given")
+      .shows_value_as("F");
+  command.flag("--strict", options->strict, "Files that differ in form differ");
+  command.flag("--json", options->json, "Print JSON instead, and no diagnostics to standard error");
+  command.runs([options] { return diff(*options); });
 }
 
 }  // namespace tool

@@ -4,11 +4,8 @@
 
 #include <string>
 
+#include "command_line/command_line.h"
 #include "comparison/numbers.h"
-
-namespace CLI {
-class App;
-}
 
 namespace tool {
 
@@ -24,9 +21,8 @@ struct DiffOptions {
 /// @throws std::exception  when the attempt to read a file fails
 int diff(const DiffOptions& options);
 
-/// Adds the subcommand to `app`; when it is chosen, parsing runs it and stores its exit code
-/// in `exit_code`, which must outlive `app`.
-void add_diff_command(CLI::App& app, int& exit_code);
+/// Adds the command to `line`.
+void add_diff_command(CommandLine& line);
 
 }  // namespace tool
 

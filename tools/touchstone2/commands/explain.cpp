@@ -6,8 +6,6 @@
 #include <memory>
 #include <sstream>
 
-#include <CLI/CLI.hpp>
-
 #include "diagnostics/catalogue.h"
 #include "diagnostics/example_text.h"
 #include "terminal/console.h"
@@ -113,18 +111,14 @@ int explain(const ExplainOptions& options) {
   return kDone;
 }
 
-void add_explain_command(CLI::App& app, int& exit_code) {
+void add_explain_command(CommandLine& line) {
   const auto options = std::make_shared<ExplainOptions>();
-  CLI::App* command = app.add_subcommand("explain", "Say what a diagnostic means");
-  command->footer(kFooter);
-  CLI::Option* codes = command->add_option("CODE", options->codes, "E2308, W2005, 2308, ...");
-  CLI::Option* list =
-      command->add_flag("--list", options->list, "Print all codes, each with its title");
-  list->excludes(codes);
-  add_plain_option(*command);
-  command->callback([options, &exit_code] {
-    if (options->codes.empty() && !options->list) throw CLI::RequiredError("CODE or --list");
-    exit_code = explain(*options);
+  Command command = line.add_command("explain", "Say what a diagnostic means", kFooter);
+  const Option codes = command.option("CODE", options->codes, "E2308, W2005, 2308, ...");
+  command.flag("--list", options->list, "Print all codes, each with its title").excludes(codes);
+  command.runs([options] {
+    if (options->codes.empty() && !options->list) throw UsageError("CODE or --list is required");
+    return explain(*options);
   });
 }
 

@@ -5,9 +5,7 @@
 #include <string>
 #include <vector>
 
-namespace CLI {
-class App;
-}
+#include "command_line/command_line.h"
 
 namespace tool {
 
@@ -19,9 +17,8 @@ struct ExplainOptions {
 /// @return the exit code
 int explain(const ExplainOptions& options);
 
-/// Adds the subcommand to `app`; when it is chosen, parsing runs it and stores its exit code
-/// in `exit_code`, which must outlive `app`.
-void add_explain_command(CLI::App& app, int& exit_code);
+/// Adds the command to `line`.
+void add_explain_command(CommandLine& line);
 
 }  // namespace tool
 

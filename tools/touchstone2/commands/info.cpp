@@ -12,7 +12,6 @@
 #include <string_view>
 #include <vector>
 
-#include <CLI/CLI.hpp>
 #include <nlohmann/json.hpp>
 
 #include "commands/input_reading.h"
@@ -253,20 +252,17 @@ int info(const InfoOptions& options) {
   return valid ? kAllValid : kRefused;
 }
 
-void add_info_command(CLI::App& app, int& exit_code) {
+void add_info_command(CommandLine& line) {
   const auto options = std::make_shared<InfoOptions>();
-  CLI::App* command = app.add_subcommand("info", "Say what files hold");
-  command->footer(kFooter);
-  command->add_option("PATH", options->paths, "Files, folders, or - for standard input")
-      ->required();
-  CLI::Option* short_lines =
-      command->add_flag("--short", options->short_lines, "Print one line for each file");
+  Command command = line.add_command("info", "Say what files hold", kFooter);
+  command.option("PATH", options->paths, "Files, folders, or - for standard input").is_required();
+  const Option short_lines =
+      command.flag("--short", options->short_lines, "Print one line for each file");
   command
-      ->add_flag("--json", options->json,
-                 "Print JSON Lines instead, and no diagnostics to standard error")
-      ->excludes(short_lines);
-  add_plain_option(*command);
-  command->callback([options, &exit_code] { exit_code = info(*options); });
+      .flag("--json", options->json,
+            "Print JSON Lines instead, and no diagnostics to standard error")
+      .excludes(short_lines);
+  command.runs([options] { return info(*options); });
 }
 
 }  // namespace tool

@@ -13,8 +13,6 @@
 #include <string>
 #include <vector>
 
-#include <CLI/CLI.hpp>
-
 #include "inputs/folder.h"
 #include "inputs/path_text.h"
 #include "inputs/port_list.h"
@@ -37,6 +35,14 @@ A list for --from has the same lines; ports that it leaves out keep their names,
 (they would be read back as "_") and "!"; an empty one removes the name.
 
 )";
+
+constexpr const char* kExamples = R"(
+
+Examples:
+  touchstone2 ports coupler.s4p
+  touchstone2 ports coupler.s4p --set 2=out --set 3=coupled -o named.s4p
+  touchstone2 ports coupler.s4p >names.txt
+  touchstone2 ports other.s4p --from names.txt -o other.s4p --force)";
 
 std::vector<std::string> lines_of(const std::string& path) {
   std::ifstream named;
@@ -123,26 +129,18 @@ int ports(const PortsOptions& options) {
   return write_result(source, result, result.get_version(), options.write);
 }
 
-void add_ports_command(CLI::App& app, int& exit_code) {
+void add_ports_command(CommandLine& line) {
   const auto options = std::make_shared<PortsOptions>();
-  CLI::App* command = app.add_subcommand("ports", "List port names, or write a file with others");
-  command->footer(std::string(kFooter) + kWritingHelp + R"(
-
-Examples:
-  touchstone2 ports coupler.s4p
-  touchstone2 ports coupler.s4p --set 2=out --set 3=coupled -o named.s4p
-  touchstone2 ports coupler.s4p >names.txt
-  touchstone2 ports other.s4p --from names.txt -o other.s4p --force)");
-  command->add_option("FILE", options->path, "A file, or - for standard input")->required();
-  command->add_option("--set", options->set, "Name a port, as 2=out; may be repeated")
-      ->type_name("PORT=NAME")
-      ->allow_extra_args(false)
-      ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll);
-  command
-      ->add_option("--from", options->names_path, "Take names from a list, or - for standard input")
-      ->type_name("NAMES");
-  add_write_options(*command, options->write);
-  command->callback([options, &exit_code] { exit_code = ports(*options); });
+  Command command = line.add_command("ports", "List port names, or write a file with others",
+                                     std::string(kFooter) + kWritingHelp + kExamples);
+  command.option("FILE", options->path, "A file, or - for standard input").is_required();
+  command.option("--set", options->set, "Name a port, as 2=out; may be repeated")
+      .shows_value_as("PORT=NAME")
+      .takes_one_value_each_time();
+  command.option("--from", options->names_path, "Take names from a list, or - for standard input")
+      .shows_value_as("NAMES");
+  add_write_options(command, options->write);
+  command.runs([options] { return ports(*options); });
 }
 
 }  // namespace tool

@@ -5,11 +5,8 @@
 #include <string>
 #include <vector>
 
+#include "command_line/command_line.h"
 #include "outputs/writing.h"
-
-namespace CLI {
-class App;
-}
 
 namespace tool {
 
@@ -23,9 +20,8 @@ struct PortsOptions {
 /// @return the exit code
 int ports(const PortsOptions& options);
 
-/// Adds the subcommand to `app`; when it is chosen, parsing runs it and stores its exit code
-/// in `exit_code`, which must outlive `app`.
-void add_ports_command(CLI::App& app, int& exit_code);
+/// Adds the command to `line`.
+void add_ports_command(CommandLine& line);
 
 }  // namespace tool
 

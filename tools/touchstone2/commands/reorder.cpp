@@ -7,8 +7,6 @@
 #include <utility>
 #include <vector>
 
-#include <CLI/CLI.hpp>
-
 #include "inputs/port_list.h"
 #include "terminal/console.h"
 #include "text/value_text.h"
@@ -24,6 +22,11 @@ version is kept. H- and G-parameters tell the two ports apart and are refused in
 other order than 1,2.
 
 )";
+
+constexpr const char* kExamples = R"(
+
+Examples:
+  touchstone2 reorder coupler.s4p --order 4,3,2,1 -o turned.s4p)";
 
 std::vector<PortEntry> parse_order(const std::string& text) {
   std::vector<PortEntry> order = parse_port_list("--order", text);
@@ -56,19 +59,16 @@ int reorder(const ReorderOptions& options) {
   return write_result(source, *result.file, result.file->get_version(), options.write);
 }
 
-void add_reorder_command(CLI::App& app, int& exit_code) {
+void add_reorder_command(CommandLine& line) {
   const auto options = std::make_shared<ReorderOptions>();
-  CLI::App* command = app.add_subcommand("reorder", "Write a file with its ports in another order");
-  command->footer(std::string(kFooter) + kWritingHelp + R"(
-
-Examples:
-  touchstone2 reorder coupler.s4p --order 4,3,2,1 -o turned.s4p)");
-  command->add_option("FILE", options->path, "A file, or - for standard input")->required();
-  command->add_option("--order", options->order, "All ports in their new order, as 4,3,2,1")
-      ->type_name("PORTS")
-      ->required();
-  add_write_options(*command, options->write)->required();
-  command->callback([options, &exit_code] { exit_code = reorder(*options); });
+  Command command = line.add_command("reorder", "Write a file with its ports in another order",
+                                     std::string(kFooter) + kWritingHelp + kExamples);
+  command.option("FILE", options->path, "A file, or - for standard input").is_required();
+  command.option("--order", options->order, "All ports in their new order, as 4,3,2,1")
+      .shows_value_as("PORTS")
+      .is_required();
+  add_write_options(command, options->write).is_required();
+  command.runs([options] { return reorder(*options); });
 }
 
 }  // namespace tool

@@ -6,8 +6,6 @@
 #include <utility>
 #include <vector>
 
-#include <CLI/CLI.hpp>
-
 #include "inputs/port_list.h"
 #include "terminal/console.h"
 
@@ -23,6 +21,12 @@ S-parameters, shorted in Y-parameters and open in Z-parameters. H- and G-paramet
 need both ports in their order. Noise data need both ports. The version is kept.
 
 )";
+
+constexpr const char* kExamples = R"(
+
+Examples:
+  touchstone2 subset coupler.s4p --ports 1=in,3=out -o pair.s2p
+  touchstone2 subset coupler.s4p --ports 3 -o -)";
 
 std::vector<std::pair<std::size_t, std::string>> selection_of(
     const std::vector<PortEntry>& entries, const std::vector<std::string>& names) {
@@ -48,20 +52,16 @@ int subset(const SubsetOptions& options) {
   return write_result(source, *result.file, result.file->get_version(), options.write);
 }
 
-void add_subset_command(CLI::App& app, int& exit_code) {
+void add_subset_command(CommandLine& line) {
   const auto options = std::make_shared<SubsetOptions>();
-  CLI::App* command = app.add_subcommand("subset", "Write a file with some of its ports");
-  command->footer(std::string(kFooter) + kWritingHelp + R"(
-
-Examples:
-  touchstone2 subset coupler.s4p --ports 1=in,3=out -o pair.s2p
-  touchstone2 subset coupler.s4p --ports 3 -o -)");
-  command->add_option("FILE", options->path, "A file, or - for standard input")->required();
-  command->add_option("--ports", options->ports, "Ports and their new names, as 1=in,3=out")
-      ->type_name("PORTS")
-      ->required();
-  add_write_options(*command, options->write)->required();
-  command->callback([options, &exit_code] { exit_code = subset(*options); });
+  Command command = line.add_command("subset", "Write a file with some of its ports",
+                                     std::string(kFooter) + kWritingHelp + kExamples);
+  command.option("FILE", options->path, "A file, or - for standard input").is_required();
+  command.option("--ports", options->ports, "Ports and their new names, as 1=in,3=out")
+      .shows_value_as("PORTS")
+      .is_required();
+  add_write_options(command, options->write).is_required();
+  command.runs([options] { return subset(*options); });
 }
 
 }  // namespace tool

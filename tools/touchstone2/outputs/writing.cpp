@@ -8,8 +8,6 @@
 #include <charconv>
 #include <stdexcept>
 
-#include <CLI/CLI.hpp>
-
 #include "diagnostics/report.h"
 #include "outputs/losses.h"
 #include "outputs/output_file.h"
@@ -69,17 +67,15 @@ Exit code: 0 the output is written; 1 the input was refused, or the output could
 say the same; 2 wrong usage, or an output that exists or cannot be written; 141 the
 reader of standard output has gone away.)";
 
-CLI::Option* add_write_options(CLI::App& command, WriteOptions& options) {
-  CLI::Option* path =
-      command
-          .add_option("-o,--output", options.path, "The file to write, or - for standard output")
-          ->type_name("OUT");
-  command.add_flag("--force", options.force, "Replace OUT if it exists");
+Option add_write_options(Command& command, WriteOptions& options) {
+  Option path =
+      command.option("-o,--output", options.path, "The file to write, or - for standard output")
+          .shows_value_as("OUT");
+  command.flag("--force", options.force, "Replace OUT if it exists");
   command
-      .add_option("--precision", options.precision,
-                  "Significant digits: auto, or a number from 1 to 17")
-      ->type_name("auto|DIGITS");
-  add_plain_option(command);
+      .option("--precision", options.precision,
+              "Significant digits: auto, or a number from 1 to 17")
+      .shows_value_as("auto|DIGITS");
   return path;
 }
 

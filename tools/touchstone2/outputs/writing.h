@@ -12,12 +12,8 @@
 #include <utility>
 #include <vector>
 
+#include "command_line/command_line.h"
 #include "inputs/source_file.h"
-
-namespace CLI {
-class App;
-class Option;
-}  // namespace CLI
 
 namespace tool {
 
@@ -32,7 +28,7 @@ extern const char* const kWritingHelp;
 
 /// Adds -o, --force and --precision.
 /// @return -o
-CLI::Option* add_write_options(CLI::App& command, WriteOptions& options);
+Option add_write_options(Command& command, WriteOptions& options);
 
 /// Complains about options that cannot be meant, and about an output that cannot be. Call it
 /// before anything is read.

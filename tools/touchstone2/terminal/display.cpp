@@ -7,8 +7,6 @@
 #include <cstdio>
 #include <cstdlib>
 
-#include <CLI/CLI.hpp>
-
 #ifdef _WIN32
 #include <io.h>
 #include <windows.h>
@@ -115,10 +113,7 @@ const Display& output_display() {
   return display;
 }
 
-void add_plain_option(CLI::App& command) {
-  command.add_flag("--plain", plain_wanted,
-                   "Print plain lines to a terminal, too, as to a file or a pipe");
-}
+void use_plain_displays() { plain_wanted = true; }
 
 std::string styled(const Display& display, Style style, std::string_view text) {
   if (!display.colour) return std::string(text);

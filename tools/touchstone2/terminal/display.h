@@ -7,10 +7,6 @@
 #include <string>
 #include <string_view>
 
-namespace CLI {
-class App;
-}
-
 namespace tool {
 
 struct Display {
@@ -27,8 +23,8 @@ const Display& error_display();
 const Display& output_display();
 /// @}
 
-/// Adds --plain, which makes both displays plain ones when the command line is parsed.
-void add_plain_option(CLI::App& command);
+/// Makes both displays plain ones. Call it before either is looked up.
+void use_plain_displays();
 
 enum class Style { bold, red, magenta, blue };
 

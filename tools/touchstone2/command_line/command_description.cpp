@@ -1,6 +1,6 @@
 // Asks the parser of the command line for what it was told, so that nothing is said twice.
 
-#include "json/command_description.h"
+#include "command_line/command_description.h"
 
 #include <touchstone2/version.h>
 
@@ -8,6 +8,8 @@
 
 #include <CLI/CLI.hpp>
 #include <nlohmann/json.hpp>
+
+#include "json/json_report.h"
 
 namespace tool {
 
@@ -51,14 +53,14 @@ Json command_to_json(const CLI::App& command) {
 
 }  // namespace
 
-Json commands_to_json(const CLI::App& app) {
+std::string describe_commands(const CLI::App& app) {
   Json object = command_to_json(app);
   object["version"] = TOUCHSTONE2_VERSION_STRING;
   object["commands"] = Json::array();
   for (const CLI::App* command : app.get_subcommands({})) {
     object["commands"].push_back(command_to_json(*command));
   }
-  return object;
+  return json_line(object);
 }
 
 }  // namespace tool

@@ -1,4 +1,4 @@
-#include "commands/help_format.h"
+#include "command_line/help_format.h"
 
 #include <algorithm>
 #include <vector>
