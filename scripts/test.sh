@@ -46,7 +46,7 @@ step "windows, under wine" scripts/test-windows.sh
 step "gcc, address and undefined behaviour sanitizers" check_preset asan
 step "threads, thread sanitizer" check_threads
 step "fuzz targets, a fixed number of runs" scripts/fuzz.sh --short
-step "clang-tidy" scripts/tidy.sh --quick
+step "clang-tidy" scripts/tidy.sh
 step "instructions per byte" scripts/check_instructions.sh
 step "binary interface" scripts/abi.sh
 step "site of the documentation" scripts/docs.sh build/release/tools/touchstone2/touchstone2

@@ -1,19 +1,8 @@
 #!/usr/bin/env bash
 # Runs clang-tidy over the library and the tool. Takes the compiler commands of
 # the preset "clang", which it configures; nothing has to be built.
-#
-#   tidy.sh [--quick]   --quick leaves out the files that include the parser of the
-#                       command line: a seventh of all, and half of the time
 set -euo pipefail
 
-case "${1-}" in
-    "") quick=no ;;
-    --quick) quick=yes ;;
-    *)
-        echo "usage: scripts/tidy.sh [--quick]" >&2
-        exit 2
-        ;;
-esac
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
 cmake --preset clang >/dev/null
@@ -38,9 +27,6 @@ PYTHON
 
 files=()
 while IFS= read -r -d '' file; do
-    if [ "$quick" = yes ] && grep -q '#include <CLI/' "$file"; then
-        continue
-    fi
     files+=("$file")
 done < <(list_files)
 if [ "${#files[@]}" -eq 0 ]; then
