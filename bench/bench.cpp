@@ -3,8 +3,8 @@
 //   touchstone2_bench --once read|write INPUT WAY
 //       one way in a process of its own: then the pages that a fresh process has to fetch
 //       count, as they do for a user
-//   touchstone2_bench --count INPUT
-//       the library reads a fiftieth of an input, for a tool that counts instructions
+//   touchstone2_bench --count read|write INPUT
+//       the library reads or writes a fiftieth of an input, for a tool that counts instructions
 #include <benchmark/benchmark.h>
 
 #include "tasks.h"
@@ -41,13 +41,19 @@ void add_benchmarks() {
 // On its own so that a profiler can be told to look at nothing else.
 [[gnu::noinline]] void run_counted(const Task& task) { task.run(); }
 
-// Prints the bytes that one run reads.
-int run_for_counting(const std::string& name) {
+Task make_task(const std::string& direction, const Input& input,
+               const std::vector<std::string>& files, const std::string& way) {
+  return direction == "read" ? make_read_task(input, files, way)
+                             : make_write_task(input, files, way);
+}
+
+// Prints the bytes that one run reads or writes.
+int run_for_counting(const std::string& direction, const std::string& name) {
   const Input input = *find_input(name);
   Input small = input;
   small.points = input.points / 50;
   const auto files = make_files(small, input_folder() / "small");
-  const Task task = make_read_task(small, files, "library");
+  const Task task = make_task(direction, small, files, "library");
   run_counted(task);
   std::printf("%zu\n", task.bytes);
   return 0;
@@ -61,8 +67,7 @@ int run_once(const std::string& direction, const std::string& name, const std::s
     return 2;
   }
   const auto files = make_files(*input, input_folder());
-  const Task task = direction == "read" ? make_read_task(*input, files, way)
-                                        : make_write_task(*input, files, way);
+  const Task task = make_task(direction, *input, files, way);
   const auto begin = std::chrono::steady_clock::now();
   task.run();
   const std::chrono::duration<double> seconds = std::chrono::steady_clock::now() - begin;
@@ -78,8 +83,8 @@ int main(int argc, char** argv) {
     if (argc == 5 && std::string(argv[1]) == "--once") {
       return touchstone2::bench::run_once(argv[2], argv[3], argv[4]);
     }
-    if (argc == 3 && std::string(argv[1]) == "--count") {
-      return touchstone2::bench::run_for_counting(argv[2]);
+    if (argc == 4 && std::string(argv[1]) == "--count") {
+      return touchstone2::bench::run_for_counting(argv[2], argv[3]);
     }
     touchstone2::bench::add_benchmarks();
     benchmark::Initialize(&argc, argv);
