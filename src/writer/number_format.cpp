@@ -37,8 +37,7 @@ constexpr std::uint64_t kPowersOfTen[] = {1,
                                           100000000000000,
                                           1000000000000000,
                                           10000000000000000,
-                                          100000000000000000,
-                                          1000000000000000000};
+                                          100000000000000000};
 
 char* format_exactly(char* out, double value, int precision) {
   return std::to_chars(out, out + kNumberRoom, value, std::chars_format::general, precision).ptr;
@@ -91,7 +90,8 @@ struct Digits {
   int exponent;         // of the first digit
 };
 
-// False when std::to_chars has to decide.
+// False when std::to_chars has to decide, as for zero, infinity and everything else whose first
+// digit is far from the point.
 bool find_digits(double magnitude, int precision, Digits& digits) {
   const auto bits = std::bit_cast<std::uint64_t>(magnitude);
   const int biased = static_cast<int>(bits >> 52);
@@ -161,13 +161,12 @@ int count_trailing_zeros(const char* text) {
   return count;
 }
 
+// Of two digits, as all are that find_digits finds.
 char* write_exponent(char* out, int exponent) {
-  *out++ = 'e';
-  *out++ = exponent < 0 ? '-' : '+';
-  const auto magnitude = static_cast<std::uint64_t>(std::abs(exponent));
-  if (magnitude >= 100) *out++ = static_cast<char>('0' + magnitude / 100);
-  write_pair(out, magnitude % 100);
-  return out + 2;
+  out[0] = 'e';
+  out[1] = exponent < 0 ? '-' : '+';
+  write_pair(out + 2, static_cast<std::uint64_t>(std::abs(exponent)));
+  return out + 4;
 }
 
 // The "%g" layout: zeros at the end left out, an exponent only for very small and large values.
@@ -202,7 +201,6 @@ char* write_layout(char* out, const Digits& digits, int precision) {
 }  // namespace
 
 char* format_number(char* out, double value, int precision) {
-  if (value == 0.0 || !std::isfinite(value)) return format_exactly(out, value, precision);
   Digits digits{};
   if (!find_digits(std::fabs(value), precision, digits)) {
     return format_exactly(out, value, precision);
