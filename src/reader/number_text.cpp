@@ -25,8 +25,8 @@ constexpr double kSmallest = std::numeric_limits<double>::min();
 struct Literal {
   std::string_view text;
   bool is_zero = true;
-  // Of a literal other than zero: the value lies in [10^e, 10^(e+1)). Saturates far outside
-  // the range of a double.
+  // Of a literal other than zero: the value lies in [10^(e-1), 10^(e+1)), which is enough to tell
+  // overflow from underflow. Saturates far outside the range of a double.
   std::int64_t decimal_exponent = 0;
 };
 
@@ -57,8 +57,8 @@ std::optional<Literal> find_literal(std::string_view text) {
   const std::size_t leading = mantissa.find_first_of("123456789");
   if (leading != std::string_view::npos) {
     literal.is_zero = false;
-    literal.decimal_exponent = static_cast<std::int64_t>(point) -
-                               static_cast<std::int64_t>(leading) - (leading < point ? 1 : 0);
+    literal.decimal_exponent =
+        static_cast<std::int64_t>(point) - static_cast<std::int64_t>(leading);
   }
 
   if (end < text.size() && to_lower(text[end]) == 'e') {
@@ -82,8 +82,6 @@ std::optional<double> parse_short_literal(std::string_view text) {
   std::uint64_t digits = 0;
   std::size_t position = 0;
   std::size_t point = std::string_view::npos;
-  constexpr std::size_t kMostBytes = 20;  // at most 19 digits and a point
-  if (text.size() > kMostBytes) return std::nullopt;
   for (; position < text.size(); ++position) {
     const char c = text[position];
     if (is_digit(c)) {
@@ -96,7 +94,8 @@ std::optional<double> parse_short_literal(std::string_view text) {
   }
   const bool has_point = point != std::string_view::npos;
   const std::size_t count = text.size() - (has_point ? 1 : 0);
-  if (count == 0 || count > kMostBytes - 1) return std::nullopt;
+  constexpr std::size_t kMostDigits = 19;  // that 64 bits can hold
+  if (count == 0 || count > kMostDigits) return std::nullopt;
   const std::size_t decimals = has_point ? text.size() - point - 1 : 0;
   double value = 0.0;
   if (!decimal_to_double(digits, -static_cast<int>(decimals), value)) return std::nullopt;
