@@ -114,6 +114,21 @@ TEST(NumberTextReal, TheRestIsIgnored) {
   });
 }
 
+// Numbers are converted where they lie, with the rest of the file behind them.
+TEST(NumberTextReal, BytesBehindTheTextAreNotRead) {
+  for (const std::string whole : {"12345", "1.5.5", "+1.25e-17", "-12E+100", ".5e3", "1e5e5",
+                                  "123456789012345678901234567890e-12"}) {
+    for (std::size_t count = 0; count < whole.size(); ++count) {
+      const std::string alone = whole.substr(0, count);
+      SCOPED_TRACE(alone);
+      const RealText expected = parse_real(alone);
+      const RealText found = parse_real(std::string_view(whole).substr(0, count));
+      EXPECT_TRUE(same_bits(found.value, expected.value));
+      EXPECT_EQ(found.range, expected.range);
+    }
+  }
+}
+
 TEST(NumberTextReal, Exponents) {
   expect_rows({
       {"1e5", 1e5, kNormal},
