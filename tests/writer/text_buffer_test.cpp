@@ -77,8 +77,25 @@ TEST(TextBuffer, KeepsTheOrderOverManyPieces) {
     const std::string large(200'000, 'x');
     text.append(large);
     expected += large;
+    // Every length meets the end of a piece, the longest included.
+    for (int k = 0; k < 5'000; ++k) {
+      const std::streamsize precision = k % 7 == 0 ? 800 : 14;
+      text.append_pair(k / 7.0, -1e-300 / (k + 3), precision);
+      expected += "  " + by_stream(k / 7.0, precision, 20) + " " +
+                  by_stream(-1e-300 / (k + 3), precision, 20);
+      text.append_number(k / 9.0, precision);
+      expected += by_stream(k / 9.0, precision, 0);
+    }
   }  // flushed when destroyed
   EXPECT_TRUE(os.str() == expected);
+}
+
+TEST(TextBuffer, ASingleByteIsHandedOver) {
+  std::ostringstream os;
+  TextBuffer text(os);
+  text.append("x");
+  text.flush();
+  EXPECT_EQ(os.str(), "x");
 }
 
 class ThrowingBuffer : public std::streambuf {
