@@ -490,6 +490,19 @@ TEST(Stream, NumberFlagsFillAndWidthDoNotGetIntoTheFile) {
   }
 }
 
+TEST(Stream, KeepsPrecisionAndAdjustmentOfEitherKindOfData) {
+  auto read = valid("# MHz S RI R 50\n1" + numbered_pairs(4) + "\n0.5 1 1 1 1\n");
+  const Pieces writer(read.file);
+  std::ostringstream network;
+  writer.write_network_params(network, false, true, false);
+  std::ostringstream noise;
+  writer.write_noise_params(noise, false);
+  for (const std::ostringstream* const os : {&network, &noise}) {
+    EXPECT_EQ(os->precision(), 14);
+    EXPECT_EQ(os->flags() & std::ios_base::adjustfield, std::ios_base::left);
+  }
+}
+
 TEST(Stream, HasItsOwnSettingsAgainAfterAnException) {
   auto read = valid("# GHz S MA R 50\n1000.5 0.5 -30\n");
   read.file.*stored(test::PortCountField{}) = 2;
