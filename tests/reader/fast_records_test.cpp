@@ -256,9 +256,11 @@ TEST(FastRecords, TakesEveryRegularRecord) {
     } else {
       params = std::make_unique<SymmetricNetworkParams>(ports, 1e6, read.file.get_complex_format());
     }
-    FastRecords records(read.file, *params, first_cell_of(style), {});
+    ReadProgress progress;
+    FastRecords records(read.file, *params, first_cell_of(style), {&progress, text.data()});
     const auto result = records.take(text.data(), text.data() + text.size());
     ASSERT_EQ(static_cast<std::size_t>(result.end - text.data()), taken);
+    ASSERT_EQ(progress.bytes, taken);
     ASSERT_EQ(result.lines, static_cast<std::size_t>(lines));
     ASSERT_EQ(params->freq_points(),
               static_cast<std::size_t>(style.version_2 ? kPoints : kPoints - 1));
