@@ -153,6 +153,9 @@ TEST(NetworkData, Diagnostics) {
       {"indented keyword behind the data", file_with("1 2 3\n  [End]\n"), {"E2011 8:1 '  '"}},
       {"indented #", file_with("  # x\n"), {"E2011 7:1 '  '"}},
       {"a word", file_with("x 1 2\n"), {"E2007 7:1 'x'"}},
+      {"a word where the second record begins",
+       file_with("1 2 3\nx 2 3\n", 1, 2),
+       {"E2007 8:1 'x'"}},
       {"a frequency with its unit", file_with("1GHz 2 3\n"), {"E2007 7:1 '1ghz'"}},
       {"#", file_with("1 2 3\n# GHz\n"), {"E2107 8:1 '#'"}},
       // Inside a record.
