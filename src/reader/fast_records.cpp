@@ -110,7 +110,8 @@ const char* FastRecords::read_record(const char* position, Record& record,
   position = detail::parse_plain_number(position, record.freq);
   if (position == nullptr || record.freq < 0.0) return nullptr;
 
-  // Behind the frequency every line of a version 1 record holds an even count of numbers.
+  // Behind the frequency every line of a version 1 record holds an even count of numbers; the last
+  // one does when the others do.
   std::size_t line_begin = 0;
   for (std::size_t index = 0; index < expected; ++index) {
     position = skip_blanks(position);
@@ -131,7 +132,6 @@ const char* FastRecords::read_record(const char* position, Record& record,
     values[slots == nullptr ? index : 2 * slots[index / 2] + part] = value;
   }
   position = skip_blanks(position);
-  if (version_1_ && (expected - line_begin) % 2 != 0) return nullptr;
   position = skip_line_end(position);
   if (position == nullptr) return nullptr;
   ++lines;
