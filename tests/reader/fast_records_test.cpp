@@ -198,6 +198,8 @@ TEST(FastRecords, InterruptedRunsGiveTheSameResult) {
       {"two ports on two lines", "4.0001 1 1 1 1\n1 1 1 1\n"},
       {"two ports, a pair on two lines", "4.0001 1 1 1\n1 1 1 1 1\n"},
       {"two ports on two lines, like noise", "0.0001 1 1 1 1\n1 1 1 1\n"},
+      {"a negative magnitude, one port", "4.0001 -1 1\n"},
+      {"a negative magnitude, two ports", "4.0001 1 1 1 1 -1 1 1 1\n"},
       {"clipped numbers", "4.0001 1e999 1e-999 1 1 1 1 1 1\n"},
   };
   std::mt19937_64 random(6);

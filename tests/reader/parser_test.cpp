@@ -193,6 +193,19 @@ TEST(Parser, ReadsTwiceIntoOneFile) {
   EXPECT_EQ(bare.file.get_mixed_mode_descriptors().size(), 2U);
 }
 
+// Up to this count the implicit values are there even if the data turn out not to be.
+TEST(Parser, ImplicitValuesOfManyPorts) {
+  for (const std::size_t ports : {std::size_t{65'536}, std::size_t{65'537}}) {
+    Session session("[Version] 2.0\n#\n[Number of Ports] " + std::to_string(ports) +
+                    "\n[Number of Frequencies] 1\n[Network Data]\n1 2 3\n[End]\n");
+    EXPECT_FALSE(session.parser.read_file());
+    EXPECT_EQ(session.briefs(), Strings{"E2308 6:1 '1'"});
+    const std::size_t filled = ports == 65'536 ? ports : 0;
+    EXPECT_EQ(session.file.get_reference_impedance_per_port().size(), filled);
+    EXPECT_EQ(session.file.get_mixed_mode_descriptors().size(), filled);
+  }
+}
+
 TEST(Parser, AKeywordOfAnEarlierReadCountsAsGiven) {
   Session session(
       "[Version] 2.0\n#\n[Number of Ports] 1\n[Number of Frequencies] 1\n"

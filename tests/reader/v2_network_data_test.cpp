@@ -186,6 +186,7 @@ TEST(NetworkData, Diagnostics) {
        {"E2206 4:1 'network data'"}},
       {"no order for 2 ports", file_with("1 1 0 1 0 1 0 1 0\n[End]\n", 2), {"E2018 0:0 ''"}},
       {"no order, and no data", file_with("", 2), {"E2018 0:0 ''"}},
+      {"no order, after the first token of the data", file_with("\xB5\n", 2), {"E2003 7:1 '\xB5'"}},
       {"no order, after the keyword's line",
        "[Version] 2.0\n#\n[Number of Ports] 2\n[Number of Frequencies] 1\n[Network Data] x\n",
        {"E2004 5:15 ' '"}},
