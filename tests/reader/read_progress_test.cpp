@@ -61,6 +61,13 @@ TEST(ReadProgress, IsAtTheEndAfterAReadOfTheWholeFile) {
   EXPECT_EQ(reading.progress.line_offset, text.size());
 }
 
+TEST(ReadProgress, BeginsInTheFirstLine) {
+  const Reading reading("x");
+  ASSERT_FALSE(reading.recorder.seen.empty());
+  EXPECT_EQ(reading.recorder.seen[0].line, 1U);
+  EXPECT_EQ(reading.recorder.seen[0].line_offset, 0U);
+}
+
 TEST(ReadProgress, KnowsTheLineOfAWarningWhileItIsReported) {
   const Reading reading("! plain\n! caf\xE9\n# GHz S RI R 50\n1 2 3\n");
   ASSERT_EQ(reading.recorder.seen.size(), 1U);
