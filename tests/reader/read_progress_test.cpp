@@ -61,6 +61,18 @@ TEST(ReadProgress, IsAtTheEndAfterAReadOfTheWholeFile) {
   EXPECT_EQ(reading.progress.line_offset, text.size());
 }
 
+TEST(ReadProgress, KnowsTheLineBehindRecordsThatWereTakenAtOnce) {
+  const std::string good =
+      "[Version] 2.0\n# GHz S RI R 50\n[Number of Ports] 1\n"
+      "[Number of Frequencies] 100\n[Network Data]\n" +
+      many_records(100).substr(16);
+  const Reading reading(good + "x" + std::string(200, ' '));
+  ASSERT_EQ(reading.recorder.seen.size(), 1U);
+  EXPECT_EQ(reading.recorder.seen[0].diagnostic_line, 106U);
+  EXPECT_EQ(reading.recorder.seen[0].line, 106U);
+  EXPECT_EQ(reading.recorder.seen[0].line_offset, good.size());
+}
+
 TEST(ReadProgress, BeginsInTheFirstLine) {
   const Reading reading("x");
   ASSERT_FALSE(reading.recorder.seen.empty());
