@@ -1,8 +1,13 @@
 #include "model/decimal.h"
 
+#include <algorithm>
+#include <bit>
+#include <cstddef>
+#include <cstdint>
 #include <cstdlib>
 #include <random>
 #include <string>
+#include <vector>
 
 #include <gtest/gtest.h>
 
@@ -54,6 +59,63 @@ TEST(Decimal, PowersOfFive) {
   EXPECT_EQ(kPowersOfFive[57].high, 0xC800000000000000);
   EXPECT_EQ(kPowersOfFive[54].high, 0xCCCCCCCCCCCCCCCC);
   EXPECT_EQ(kPowersOfFive[54].low, 0xCCCCCCCCCCCCCCCD);
+}
+
+// Whole numbers of any size, the lowest 32 bits first.
+using Whole = std::vector<std::uint32_t>;
+
+Whole times_power_of_five(Whole number, int q) {
+  for (; q > 0; --q) {
+    std::uint64_t carry = 0;
+    for (std::uint32_t& part : number) {
+      carry += std::uint64_t{part} * 5;
+      part = static_cast<std::uint32_t>(carry);
+      carry >>= 32;
+    }
+    if (carry != 0) number.push_back(static_cast<std::uint32_t>(carry));
+  }
+  return number;
+}
+
+Whole whole_of(UInt128 number) {
+  return {static_cast<std::uint32_t>(number.low), static_cast<std::uint32_t>(number.low >> 32),
+          static_cast<std::uint32_t>(number.high), static_cast<std::uint32_t>(number.high >> 32)};
+}
+
+void shift_up(Whole& number) {
+  std::uint32_t bit = 0;
+  for (std::uint32_t& part : number) {
+    const std::uint32_t next = part >> 31;
+    part = part << 1 | bit;
+    bit = next;
+  }
+}
+
+bool is_less(const Whole& a, const Whole& b) {  // of the same size
+  return std::lexicographical_compare(a.rbegin(), a.rend(), b.rbegin(), b.rend());
+}
+
+// For q < 0 the entry r is a power of two divided by 5^-q, rounded up: r times 5^-q exceeds that
+// power of two, but by less than 5^-q.
+TEST(Decimal, EveryPowerOfFive) {
+  for (int q = -kMostDecimalExponent; q <= kMostDecimalExponent; ++q) {
+    SCOPED_TRACE(q);
+    const UInt128 entry = kPowersOfFive[static_cast<std::size_t>(q + kMostDecimalExponent)];
+    EXPECT_EQ(entry.high >> 63, 1U);
+    if (q >= 0) {
+      Whole power = times_power_of_five({1}, q);
+      ASSERT_LE(power.size(), 4U);
+      power.resize(4);
+      while ((power[3] >> 31) == 0) shift_up(power);
+      EXPECT_EQ(whole_of(entry), power);
+    } else {
+      Whole excess = times_power_of_five(whole_of(entry), -q);
+      excess.back() -= std::bit_floor(excess.back());
+      Whole power = times_power_of_five({1}, -q);
+      power.resize(excess.size());
+      EXPECT_TRUE(is_less(excess, power));
+    }
+  }
 }
 
 TEST(Decimal, ZeroIsZeroWhateverTheExponent) {
