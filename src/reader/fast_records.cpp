@@ -110,17 +110,14 @@ const char* FastRecords::read_record(const char* position, Record& record,
   position = detail::parse_plain_number(position, record.freq);
   if (position == nullptr || record.freq < 0.0) return nullptr;
 
-  // Behind the frequency every line of a version 1 record holds an even count of numbers; the last
-  // one does when the others do.
-  std::size_t line_begin = 0;
+  // Behind the frequency every line of a version 1 record holds an even count of numbers.
   for (std::size_t index = 0; index < expected; ++index) {
     position = skip_blanks(position);
     if (detail::is_line_end(*position)) {
-      if (one_line_only_ || (version_1_ && (index - line_begin) % 2 != 0)) return nullptr;
+      if (one_line_only_ || (version_1_ && index % 2 != 0)) return nullptr;
       position = skip_line_end(position);
       if (position == nullptr) return nullptr;
       position = skip_blanks(position);
-      line_begin = index;
       ++lines;
     }
     if (position >= stop_) return nullptr;
