@@ -103,7 +103,7 @@ std::string record(const Style& style, int point, std::mt19937_64& random,
     text += std::string(1 + random() % 3, random() % 5 == 0 ? '\t' : ' ');
     text += number(random, magnitudes, forms) + " " + number(random, false, forms);
   }
-  return text + style.line_end;
+  return text + (random() % 4 == 0 ? " \t" : "") + style.line_end;
 }
 
 std::string file_text(const Style& style, int points, std::mt19937_64& random) {
