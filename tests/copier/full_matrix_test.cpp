@@ -82,6 +82,14 @@ TEST(FullMatrix, KeepsWhatBelongsToThePorts) {
   EXPECT_TRUE(copy.file->uses_mixed_mode());
 }
 
+TEST(FullMatrix, PortsThatTheListLeavesOutHaveNoNames) {
+  auto read = valid(three_ports(kUpper));
+  read.file.set_port_names({"x", "y"});
+  const Copy copy = with_full_matrix(read.file);
+  ASSERT_NE(copy.file, nullptr);
+  EXPECT_EQ(copy.file->get_port_names(), (std::vector<std::string>{"x", "y", ""}));
+}
+
 TEST(FullMatrix, KeepsNoiseData) {
   const auto read = valid(
       "[Version] 2.0\n# GHz S MA R 50\n[Number of Ports] 2\n[Two-Port Data Order] 12_21\n"
