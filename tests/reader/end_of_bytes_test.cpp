@@ -65,13 +65,9 @@ std::string records(std::size_t lines, std::size_t pairs, const std::string& num
   return text;
 }
 
-// Two of the longest numbers are as long as the fast way through the data takes them, one is longer
-// than what it may look at.
+// One number is nearly as long as the fast way through the data takes them.
 TEST(EndOfBytes, IsTheEnd) {
-  const std::string zeros(57, '0');
-  const std::string numbers[] = {
-      "1",   "0.25",        "12345678.12345678", "1.2345678901234567e-12",
-      "1e5", "1.5" + zeros, "0." + zeros + "1",  "0." + std::string(110, '7')};
+  const std::string numbers[] = {"0.25", "12345678.12345678", "1.5" + std::string(57, '0')};
   for (const std::string& number : numbers) {
     const std::string texts[] = {
         "# MHz S RI R 50\n" + records(1, 1, number),
@@ -82,8 +78,8 @@ TEST(EndOfBytes, IsTheEnd) {
     };
     for (const std::string& text : texts) {
       GuardedBytes guarded(text.size());
-      for (std::size_t size = text.size(); size > 100 && size > text.size() / 2; --size) {
-        const std::string_view beginning = std::string_view(text).substr(0, size);
+      for (std::size_t cut = 0; cut < 250 && cut + 100 < text.size(); ++cut) {
+        const std::string_view beginning = std::string_view(text).substr(0, text.size() - cut);
         SCOPED_TRACE(beginning);
         const ReadResult expected = read_text(std::string(beginning));
         const ReadResult found = read_text(guarded.copy(beginning));
