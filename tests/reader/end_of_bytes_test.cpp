@@ -52,7 +52,7 @@ std::string version_2_header(const char* matrix) {
          matrix + "\n[Network Data]\n";
 }
 
-// Three records. Behind the frequency `lines` lines, of which but the first none is indented.
+// Three records. Each has `lines` lines, none of them indented.
 std::string records(std::size_t lines, std::size_t pairs, const std::string& number) {
   std::string text;
   for (int point = 1; point <= 3; ++point) {

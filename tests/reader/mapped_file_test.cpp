@@ -294,7 +294,7 @@ TEST(MappedFile, FilesBeyondFourGigabytes) {
 }
 
 TEST(MappedFile, KeepsTheMappingButNotTheFileOpen) {
-  if (!has_proc()) GTEST_SKIP();
+  if (!has_proc()) GTEST_SKIP() << "no /proc to count in";
   const TempFile source("some bytes");
   const std::size_t before = open_descriptors();
   {
@@ -308,7 +308,7 @@ TEST(MappedFile, KeepsTheMappingButNotTheFileOpen) {
 }
 
 TEST(MappedFile, FailuresLeaveNothingOpen) {
-  if (!has_proc()) GTEST_SKIP();
+  if (!has_proc()) GTEST_SKIP() << "no /proc to count in";
   const TempFile empty("");
   const TempFolder folder;
   const std::string fifo = test::to_utf8(folder.path()) + "/fifo";
@@ -360,7 +360,7 @@ const char* const kGood = "!\265\n# GHz\n1 2 3\n";
 const char* const kBad = "!\265\n# GHz\n1 2 x\n";
 
 TEST(MappedFileOfAParser, IsReleasedByAGoodRead) {
-  if (!has_proc()) GTEST_SKIP();
+  if (!has_proc()) GTEST_SKIP() << "no /proc to count in";
   const TempFile source(kGood);
   File file(source.name());
   WatchingHandler handler(source.name());
@@ -383,7 +383,7 @@ TEST(MappedFileOfAParser, IsReleasedByAGoodRead) {
 
 // The handler may then delete or rewrite the file.
 TEST(MappedFileOfAParser, IsReleasedBeforeAnErrorIsReported) {
-  if (!has_proc()) GTEST_SKIP();
+  if (!has_proc()) GTEST_SKIP() << "no /proc to count in";
   const TempFile source(kBad);
   File file(source.name());
   WatchingHandler handler(source.name());
@@ -397,7 +397,7 @@ TEST(MappedFileOfAParser, IsReleasedBeforeAnErrorIsReported) {
 }
 
 TEST(MappedFileOfAParser, IsReleasedWhenAHandlerThrows) {
-  if (!has_proc()) GTEST_SKIP();
+  if (!has_proc()) GTEST_SKIP() << "no /proc to count in";
   const TempFile source(kBad);
   const std::size_t before = open_descriptors();
   struct Row {
@@ -435,7 +435,7 @@ TEST(MappedFileOfAParser, IsReleasedWhenAHandlerThrows) {
 
 // A ParserError that the handler throws is an error of the read like any other.
 TEST(MappedFileOfAParser, IsReleasedWhenAHandlerThrowsAParserError) {
-  if (!has_proc()) GTEST_SKIP();
+  if (!has_proc()) GTEST_SKIP() << "no /proc to count in";
   const TempFile source(kGood);
   File file(source.name());
   WatchingHandler handler(source.name());
